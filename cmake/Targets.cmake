@@ -1,0 +1,53 @@
+# One place that says how this project's targets are made: warnings, sanitizers, output folders, exports.
+include(GenerateExportHeader)
+
+add_library(acs_options INTERFACE)
+target_compile_definitions(acs_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+target_include_directories(acs_options INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
+if(MSVC)
+    target_compile_options(acs_options INTERFACE /W4 /permissive- /utf-8)
+else()
+    target_compile_options(acs_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()
+if(ACS_SANITIZE)
+    target_compile_options(acs_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(acs_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# acs_library(NAME [STATIC] SOURCES ... [PUBLIC ...] [PRIVATE ...])
+# A library of this project. Shared ones get "<name in lower case>_export.h" with the macro <NAME>_EXPORT.
+function(acs_library name)
+    cmake_parse_arguments(ARG "STATIC" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    if(ARG_STATIC)
+        add_library(${name} STATIC ${ARG_SOURCES})
+    else()
+        add_library(${name} SHARED ${ARG_SOURCES})
+        string(TOLOWER ${name} lower)
+        generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/generated/${lower}_export.h)
+        set_target_properties(${name} PROPERTIES
+            LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
+            RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
+            BUILD_RPATH_USE_ORIGIN ON INSTALL_RPATH "$ORIGIN")
+    endif()
+    target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE acs_options ${ARG_PRIVATE})
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}> $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/generated>)
+endfunction()
+
+# acs_test(NAME SOURCES ... LIBS ...)
+# A Qt Test program run by ctest without a display, in a working directory that holds "./Skin".
+function(acs_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE acs_options Qt5::Test ${ARG_LIBS})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

@@ -1,0 +1,3 @@
+#include "platform/DeviceFuncLogical/IDeviceFunctionManager.h"
+
+DeviceFuncLogical::IDeviceFunctionManager::~IDeviceFunctionManager() = default;
