@@ -4,13 +4,13 @@
 
 #include <QDialogButtonBox>
 
-class QLabel;
 class QPushButton;
 
 namespace LXGUI {
 
 /// The host's dialog frame: title bar, a central widget for the user's form, standard buttons. It only emits
-/// its button signals, its user decides what happens; Escape and the close button mean cancel.
+/// its button signals, its user decides what happens; Escape and the close button mean cancel. Where nobody
+/// listens to the cancel signal they close the dialog.
 class LXGUI_EXPORT LXCustomDialog : public LXDialog
 {
     Q_OBJECT
@@ -31,12 +31,20 @@ Q_SIGNALS:
     void SignalCancelButtonClicked();
 
 public Q_SLOTS:
+    /// Outside a button slot the same as pressing Cancel; inside one it closes the dialog with result 0.
     void reject() override;
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    void Answer(void (LXCustomDialog::*signal)());
+    void DressButtons(bool bPopup);
+
     QWidget* m_pCentral;
-    QLabel* m_pTitle;
     QDialogButtonBox* m_pButtons;
+    bool m_bAnswering = false; ///< a button signal is under way: what its user calls is the decision
+    bool m_bClosing = false;   ///< closed by program: the decision has been taken
 };
 
 } // namespace LXGUI

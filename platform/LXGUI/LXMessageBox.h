@@ -5,7 +5,7 @@
 namespace LXGUI {
 
 /// Questions and statements that wait for an answer.
-class LXGUI_EXPORT LXMessageBox : public LXDialog
+class LXGUI_EXPORT LXMessageBox final : public LXDialog
 {
     Q_OBJECT
 
@@ -23,6 +23,9 @@ public:
                                int iButtons);
     static int ShowWarning(QWidget* parent, const QString& strTitle, const QString& strText, int iButtons);
 
+public Q_SLOTS:
+    void reject() override;
+
 private:
     enum class Kind
     {
@@ -33,6 +36,11 @@ private:
     ~LXMessageBox() override;
     static int Show(QWidget* parent, Kind kind, const QString& strTitle, const QString& strText,
                     int iButtons);
+    static int RefusalOf(int iButtons);
+    QWidget* MakeText(const QString& strText);
+    QWidget* MakeButtons(int iButtons);
+
+    int m_iRefusal;
 };
 
 } // namespace LXGUI

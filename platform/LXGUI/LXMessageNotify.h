@@ -4,16 +4,18 @@
 #include "platform/LXGUI/LXSingleton.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
+
+#include <memory>
 
 class QWidget;
 
 namespace LXGUI {
 
 /// Transient notes: small panels that stack in a corner of the host's window, never take the focus, fade by
-/// themselves and can be clicked away. User-interface thread only.
+/// themselves and can be clicked away. At most four at a time: older ones leave, errors last. An empty text
+/// is no note. User-interface thread only.
 class LXGUI_EXPORT LXMessageNotify : public QObject
 {
     Q_OBJECT
@@ -37,6 +39,8 @@ public:
     QStringList GetVisibleTexts() const;
     void Clear();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void SignalNotificationAdded(const QString& strText, int iLevel);
 
@@ -45,7 +49,7 @@ private:
     LXMessageNotify();
     ~LXMessageNotify() override;
     class Private;
-    Private* d;
+    std::unique_ptr<Private> d;
 };
 
 template <>

@@ -25,12 +25,17 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void checkStateSet() override;
+    bool hitButton(const QPoint& pos) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
+    void MoveKnob(bool bOn);
+    void ShowStateAtOnce();
+
     QVariantAnimation* m_pSlide;
     qreal m_knob = 0.0; ///< 0 off to 1 on
 };

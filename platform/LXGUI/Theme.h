@@ -10,7 +10,8 @@
 namespace LXGUI {
 
 /// The colours of the look by name ("window", "panel", "raised", "input", "lineDark", "lineLight", "text",
-/// "dim", "disabled", "accent", "accentHover", "accentPressed", "warning", "danger", "focus", "selection"),
+/// "dim", "disabled", "accent", "onAccent", "accentHover", "accentPressed", "warning", "danger", "focus",
+/// "selection"),
 /// read from "./Skin/theme1/colours-<theme>.json". A colour that the file lacks takes its dark default, so
 /// that a missing skin costs the look and nothing else. User-interface thread only.
 class LXGUI_EXPORT Theme
@@ -30,6 +31,8 @@ public:
 
 private:
     Theme();
+    static Theme& Shared();
+    static QString PathOf(const QString& strName);
     QString m_strName;
     QHash<QString, QColor> m_colours;
 };

@@ -1,0 +1,13 @@
+#include "platform/UICommonMdl/LXImpPushButton.h"
+
+namespace UICommonMdl {
+
+LXImpPushButton::LXImpPushButton(QWidget* parent)
+    : QPushButton(parent)
+{
+    setProperty("primary", true); // what the style sheets know important buttons by
+}
+
+LXImpPushButton::~LXImpPushButton() = default;
+
+} // namespace UICommonMdl
