@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace LXGUI {
 namespace {

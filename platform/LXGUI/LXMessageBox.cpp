@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace LXGUI {
 namespace {

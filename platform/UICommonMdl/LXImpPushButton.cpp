@@ -1,5 +1,7 @@
 #include "platform/UICommonMdl/LXImpPushButton.h"
 
+#include <QVariant>
+
 namespace UICommonMdl {
 
 LXImpPushButton::LXImpPushButton(QWidget* parent)
