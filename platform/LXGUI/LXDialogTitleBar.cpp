@@ -33,7 +33,7 @@ LXDialogTitleBar::LXDialogTitleBar(QWidget* pDialog)
     m_pClose->setFocusPolicy(Qt::NoFocus);
     m_pClose->setFixedSize(24, 24);
     m_pClose->setIcon(
-        QIcon(SkinImage(this, QStringLiteral("dialog/close.png"), QStyle::SP_TitleBarCloseButton, 16)));
+        QIcon(SkinImage(this, QStringLiteral("controls/close.png"), QStyle::SP_TitleBarCloseButton, 16)));
     m_pClose->setIconSize(QSize(16, 16));
     m_pClose->setToolTip(tr("Close"));
     m_pClose->setAccessibleName(tr("Close"));

@@ -32,7 +32,7 @@ LXMessageBox::LXMessageBox(QWidget* parent, Kind kind, const QString& strTitle, 
     pIcon->setFixedSize(IconSize, IconSize);
     const bool bWarning = kind == Kind::Warning;
     pIcon->setPixmap(SkinImage(
-        this, bWarning ? QStringLiteral("notify/warning.png") : QStringLiteral("notify/information.png"),
+        this, bWarning ? QStringLiteral("dialog/warning.png") : QStringLiteral("dialog/information.png"),
         bWarning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation, IconSize));
     pIcon->setAccessibleName(bWarning ? tr("Warning") : tr("Information"));
 
