@@ -16,8 +16,8 @@ class QAlarmListItemView;
 }
 
 /// A scrolling list of exclusive entries, each with a type and a mark, and below them a section of further
-/// entries that folds. The current entry changes by a person's click or arrow key, by HideItem() and, silently,
-/// when the first entry is added.
+/// entries that folds. The current entry changes by a person's click or arrow key, by HideItem() and,
+/// silently, when the first entry is added.
 class QAlarmListItemView : public QWidget
 {
     Q_OBJECT
@@ -26,8 +26,8 @@ public:
     explicit QAlarmListItemView(QWidget* parent = nullptr);
     ~QAlarmListItemView() override;
 
-    /// Adds a main entry. An entry of this text that exists already is shown again instead and keeps its place
-    /// and its type.
+    /// Adds a main entry. An entry of this text that exists already is shown again instead and keeps its
+    /// place and its type.
     void AddItem(const QString& strText, int iType);
     void AddSubItem(const QString& strText, int iType);
     int GetCurrentType() const; ///< -1 when no entry is checked

@@ -6,7 +6,13 @@
 /// The access-control event types of the host: one table for their category, order and name.
 namespace EventTypes {
 
-enum class Category { Alarm, Abnormal, Normal, Other };
+enum class Category
+{
+    Alarm,
+    Abnormal,
+    Normal,
+    Other
+};
 
 /// Types of a category in the order in which they are offered.
 QList<int> Types(Category category);

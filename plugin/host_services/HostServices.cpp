@@ -20,12 +20,12 @@ constexpr int s_iSlotCount = 59;
 constexpr std::array<Getter, s_iSlotCount> s_getters = {
     nullptr, nullptr,
 #define HUB(n) &IHubManager::SubManager##n
-    HUB(2),  HUB(3),  HUB(4),  HUB(5),  HUB(6),  HUB(7),  HUB(8),  HUB(9),  HUB(10), HUB(11), HUB(12),
-    HUB(13), HUB(14), HUB(15), HUB(16), HUB(17), HUB(18), HUB(19), HUB(20), HUB(21), HUB(22), HUB(23),
-    HUB(24), HUB(25), HUB(26), HUB(27), HUB(28), HUB(29), HUB(30), HUB(31), HUB(32), HUB(33), HUB(34),
-    HUB(35), HUB(36), HUB(37), HUB(38), HUB(39), HUB(40), HUB(41), HUB(42), HUB(43), HUB(44), HUB(45),
-    HUB(46), HUB(47), HUB(48), HUB(49), HUB(50), HUB(51), HUB(52), HUB(53), HUB(54), HUB(55), HUB(56),
-    nullptr, HUB(58)
+    HUB(2),  HUB(3),  HUB(4),  HUB(5),  HUB(6),  HUB(7),  HUB(8),  HUB(9),  HUB(10), HUB(11),
+    HUB(12), HUB(13), HUB(14), HUB(15), HUB(16), HUB(17), HUB(18), HUB(19), HUB(20), HUB(21),
+    HUB(22), HUB(23), HUB(24), HUB(25), HUB(26), HUB(27), HUB(28), HUB(29), HUB(30), HUB(31),
+    HUB(32), HUB(33), HUB(34), HUB(35), HUB(36), HUB(37), HUB(38), HUB(39), HUB(40), HUB(41),
+    HUB(42), HUB(43), HUB(44), HUB(45), HUB(46), HUB(47), HUB(48), HUB(49), HUB(50), HUB(51),
+    HUB(52), HUB(53), HUB(54), HUB(55), HUB(56), nullptr, HUB(58)
 #undef HUB
 };
 

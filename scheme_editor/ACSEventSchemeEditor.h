@@ -1,0 +1,111 @@
+#pragma once
+
+#include "AlarmCtrl/AlarmSchemeData/AlarmInfo.h"
+#include "platform/LXPluginAPI/IManager.h"
+#include "scheme_editor/SchemeSelection.h"
+
+#include <QFrame>
+#include <QList>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+class ACSEventNotifyEditor;
+class QAlarmDefenceTimeEditor;
+class QAlarmListItemView;
+class QAlarmOutEditor;
+class QPushButton;
+class QTreeWidgetItem;
+
+namespace Ui {
+class ACSEventSchemeEditor;
+}
+
+namespace VantaComponent {
+class GroupTreeCtrl;
+}
+
+namespace VantaModel {
+class ACSGroupTreeModel;
+}
+
+/// The page on which an operator says what happens on every event of every door and alarm input.
+///
+/// All editing happens in one map of schemes, filled once by Init() and handed back whole on Save. What the
+/// sub-editors show belongs to the current selection; every change of selection first reads them back into
+/// the map. User-interface thread; owned by the host's widget tree.
+class ACSEventSchemeEditor : public QFrame
+{
+    Q_OBJECT
+    /// The edited source and event in words, for a host's status bar.
+    Q_PROPERTY(QString editedScheme READ GetEditedScheme NOTIFY SignalEditedSchemeChanged)
+
+public:
+    explicit ACSEventSchemeEditor(QWidget* parent = nullptr);
+    ~ACSEventSchemeEditor() override;
+
+    /// Builds the page over the host's services; only the first call does anything. The list is not owned.
+    void Init(const LXPluginAPI::ManagerList* pManagers);
+    const LXPluginAPI::ManagerList* GetManagerList() const;
+    /// The host is about to take its managers away; the page stays, but no longer refers to the list.
+    void ClearManagerList();
+
+    const AlarmInfoMap& GetAlarmInfoMap() const;
+    QString GetEditedScheme() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void SignalEditedSchemeChanged(const QString& strText);
+
+public Q_SLOTS:
+    void OnOptionBtnClicked();
+    void OnTabBtnClicked();
+    void OnGroupTreeFocusChanged();
+    void OnTypeSelectionChanged(QString strName, int iType);
+    void OnAlarmInChanged(QTreeWidgetItem* pCurrent, QTreeWidgetItem* pPrevious);
+    void OnOpenStatusChanged(bool bOpen);
+    void OnSave();
+    void OnCopyTo();
+    void OnCopyToImp(QList<QString> keys);
+    void OnRemoveDevice(int64_t iDevUniqueId);
+
+protected:
+    void customEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    struct EventCategory;
+    struct SettingsTab;
+
+    std::array<EventCategory, 3> EventCategories() const;
+    std::array<SettingsTab, 3> SettingsTabs() const;
+
+    void BuildDeviceTree();
+    void BuildSubEditors();
+    void FillEventLists();
+    void SelectSource(const QString& strKey, int32_t iCategory);
+    void RebuildAlarmInputs(const QString& strKey);
+    void SwitchCategory(int32_t iCategory);
+    void ChooseAlarmInput(const QString& strKey);
+    void LoadCurrentScheme();
+    void ShowScheme(const AlarmInfo& info);
+    void StoreEditors();
+    void RefreshMarks();
+    void UpdateSettingsEnabled();
+    bool IsSchemeOn(const QString& strSource, int32_t iType) const;
+
+    std::unique_ptr<Ui::ACSEventSchemeEditor> m_ui;
+    bool m_bInitialized = false;
+    const LXPluginAPI::ManagerList* m_pManagers = nullptr;
+    ACSEventNotifyEditor* m_pNotifyEditor = nullptr;
+    QAlarmOutEditor* m_pAlarmOutEditor = nullptr;
+    QAlarmDefenceTimeEditor* m_pDefenceTimeEditor = nullptr;
+    VantaComponent::GroupTreeCtrl* m_pTree = nullptr;
+    VantaModel::ACSGroupTreeModel* m_pTreeModel = nullptr;
+    SchemeSelection m_selection;
+    AlarmInfoMap m_schemes;
+    QString m_strEditedScheme;
+};

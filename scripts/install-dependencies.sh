@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing for a purpose: build, check or bench.
+set -euo pipefail
+
+packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools libsqlite3-dev rapidjson-dev
+    fonts-dejavu-core fonts-noto-cjk xauth xvfb)
+case "${1:-build}" in
+build) ;;
+check) packages+=(clang clang-format clang-tidy clazy) ;;
+bench) packages+=(libbenchmark-dev) ;;
+*)
+    echo "usage: $0 build|check|bench" >&2
+    exit 2
+    ;;
+esac
+
+missing=()
+for package in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if ! command -v apt-get >/dev/null; then
+    echo "Please install: ${missing[*]}" >&2
+    exit 1
+fi
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
