@@ -1,0 +1,123 @@
+#include "client/ClientSettings.h"
+
+namespace {
+
+const QLatin1String KeyLanguage("client/language");
+const QLatin1String KeyTheme("client/theme");
+const QLatin1String KeyGeometry("window/geometry");
+const QLatin1String KeyOpenPages("window/openPages");
+const QLatin1String KeyExpansion("tree/expansion");
+const QLatin1String KeyMailEnabled("mail/enabled");
+const QLatin1String MailServers("mail/servers");
+const QLatin1String KeyHost("host");
+const QLatin1String KeyPort("port");
+const QLatin1String KeyUser("user");
+const QLatin1String KeySender("sender");
+constexpr int DefaultPort = 25;
+constexpr int LastPort = 65535;
+
+} // namespace
+
+ClientSettings::ClientSettings(const QString& strFile)
+    : m_settings(strFile, QSettings::IniFormat)
+{
+    m_settings.setIniCodec("UTF-8");
+}
+
+QString ClientSettings::Language() const
+{
+    const QString strCode = m_settings.value(KeyLanguage).toString();
+    return strCode == QLatin1String("en") || strCode == QLatin1String("zh_cn") ? strCode : QString();
+}
+
+void ClientSettings::SetLanguage(const QString& strCode)
+{
+    m_settings.setValue(KeyLanguage, strCode);
+}
+
+QString ClientSettings::Theme() const
+{
+    const QString strName = m_settings.value(KeyTheme).toString();
+    return strName == QLatin1String("light") ? strName : QStringLiteral("dark");
+}
+
+void ClientSettings::SetTheme(const QString& strName)
+{
+    m_settings.setValue(KeyTheme, strName);
+}
+
+QByteArray ClientSettings::WindowGeometry() const
+{
+    return m_settings.value(KeyGeometry).toByteArray();
+}
+
+void ClientSettings::SetWindowGeometry(const QByteArray& geometry)
+{
+    m_settings.setValue(KeyGeometry, geometry);
+}
+
+QStringList ClientSettings::OpenPages() const
+{
+    return m_settings.value(KeyOpenPages).toStringList();
+}
+
+void ClientSettings::SetOpenPages(const QStringList& keys)
+{
+    m_settings.setValue(KeyOpenPages, keys);
+}
+
+SystemMailSettings ClientSettings::Mail() const
+{
+    // QSettings reads arrays through a state of its own; a second object leaves this one const.
+    QSettings reader(m_settings.fileName(), QSettings::IniFormat);
+    reader.setIniCodec("UTF-8");
+    SystemMailSettings mail;
+    mail.bEnable = reader.value(KeyMailEnabled).toBool();
+    const int iCount = qBound(0, reader.beginReadArray(MailServers), MaximumMailServers);
+    for (int i = 0; i < iCount; ++i) {
+        reader.setArrayIndex(i);
+        SystemMailServer server;
+        server.strServer = reader.value(KeyHost).toString();
+        server.strUser = reader.value(KeyUser).toString();
+        server.strSender = reader.value(KeySender).toString();
+        bool bNumber = false;
+        const int iPort = reader.value(KeyPort).toInt(&bNumber);
+        server.iPort = bNumber && iPort >= 1 && iPort <= LastPort ? iPort : DefaultPort;
+        mail.servers.append(server);
+    }
+    reader.endArray();
+    return mail;
+}
+
+void ClientSettings::SetMail(const SystemMailSettings& settings)
+{
+    m_settings.remove(QStringLiteral("mail"));
+    m_settings.setValue(KeyMailEnabled, settings.bEnable);
+    m_settings.beginWriteArray(MailServers, settings.servers.size());
+    for (int i = 0; i < settings.servers.size(); ++i) {
+        const SystemMailServer& server = settings.servers.at(i);
+        m_settings.setArrayIndex(i);
+        m_settings.setValue(KeyHost, server.strServer);
+        m_settings.setValue(KeyPort, server.iPort);
+        m_settings.setValue(KeyUser, server.strUser);
+        m_settings.setValue(KeySender, server.strSender);
+    }
+    m_settings.endArray();
+    m_settings.sync();
+}
+
+QStringList ClientSettings::TreeExpansion() const
+{
+    return m_settings.value(KeyExpansion).toStringList();
+}
+
+void ClientSettings::SetTreeExpansion(const QStringList& texts)
+{
+    m_settings.setValue(KeyExpansion, texts);
+}
+
+bool ClientSettings::Write()
+{
+    m_settings.sync();
+    return m_settings.status() == QSettings::NoError;
+}

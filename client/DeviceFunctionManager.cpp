@@ -1,0 +1,6 @@
+#include "client/DeviceFunctionManager.h"
+
+std::string DeviceFunctionManager::GetServiceName() const
+{
+    return "DeviceFunction";
+}

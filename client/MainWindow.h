@@ -1,0 +1,83 @@
+#pragma once
+
+#include "client/UserRole.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include <memory>
+
+class ClientSettings;
+class ElidedLabel;
+class HomePage;
+class PageStatus;
+class PluginLoader;
+class QActionGroup;
+class QLabel;
+struct SchemeStoreOutcome;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The client's window: the home page and the modules' pages in tabs, the menu, the status bar. It is the
+/// main window object to which modules send their messages (see QCommon::HostMessage).
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// The settings must outlive the window.
+    MainWindow(ClientSettings& settings, UserRole role, const QString& strDataDirectory,
+               QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Shows a tile for every module; the loader must outlive the window's pages, see DestroyPages().
+    void SetPlugins(PluginLoader* pPlugins);
+    /// Opens a module's page, or brings it to the front. False (and a note) when that is not possible.
+    bool OpenPage(const QString& strKey);
+    void ClosePage(int iTab); ///< takes the tab away; the page keeps its edits until the window goes
+    void DestroyPages();      ///< after that no module has anything left in this window
+    QList<QPointer<QWidget>> OpenPages() const; ///< in the order of the tabs
+    QString KeyOfPage(QWidget* pPage) const;    ///< empty for the home page and for strangers
+
+    /// A problem of the start: a line on the home page and a note.
+    void AddProblem(const QString& strText);
+    void SetSite(const QString& strFile, int iDevices);
+    void ShowSaveOutcome(const SchemeStoreOutcome& outcome);
+    void OpenMailSettings(); ///< returns when the dialog is closed
+
+    HomePage* Home() const { return m_pHome; }
+    QString StatusText() const;
+
+Q_SIGNALS:
+    void SignalClosing(); ///< the window is about to close; its pages still stand
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildMenus();
+    void BuildStatusBar();
+    QActionGroup* BuildChoice(const QList<QAction*>& actions, const QStringList& values,
+                              const QString& strCurrent);
+    void OnTabChanged();
+    void OnLanguage(QAction* pAction);
+    void OnTheme(QAction* pAction);
+    void OnSave();
+    void OnAbout();
+    void OnDataDirectory();
+    void RefreshStatus();
+    QWidget* CurrentPage() const; ///< null on the home page
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    ClientSettings& m_settings;
+    UserRole m_role;
+    QString m_strDataDirectory;
+    PluginLoader* m_pPlugins = nullptr;
+    HomePage* m_pHome;
+    PageStatus* m_pStatus;
+    ElidedLabel* m_pEdited;
+    QLabel* m_pSite;
+};
