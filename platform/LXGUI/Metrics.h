@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lxgui_export.h"
+
 class QWidget;
 
 namespace LXGUI {
@@ -14,6 +16,6 @@ constexpr int NoteFadeTime = 150;
 
 /// Whether something may move on this widget: it is on screen, and neither the desktop nor the style asked
 /// for still pictures.
-bool IsMotionWelcome(const QWidget* pWidget);
+LXGUI_EXPORT bool IsMotionWelcome(const QWidget* pWidget);
 
 } // namespace LXGUI
