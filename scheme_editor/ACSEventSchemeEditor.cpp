@@ -15,6 +15,7 @@
 #include "platform/VantaComponent/GroupTreeCtrl.h"
 #include "platform/VantaModel/ACSGroupTreeModel.h"
 #include "plugin/host_services/HostServices.h"
+#include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "scheme_editor/ACSEventNotifyEditor.h"
 #include "scheme_editor/AlarmInputTree.h"
@@ -429,9 +430,9 @@ void ACSEventSchemeEditor::OnCopyTo()
         VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
         if (pManager == nullptr || !EventSourceLookup::IsCopySource(*pManager, m_selection.strSource))
             return;
-        iMode = ACSEventCopyToPopup::ModeDoor;
+        iMode = ACSCopy::Door;
     } else if (!m_selection.strAlarmInput.isEmpty()) {
-        iMode = ACSEventCopyToPopup::ModeAlarmInput;
+        iMode = ACSCopy::AlarmInput;
     } else {
         return;
     }
@@ -447,13 +448,10 @@ void ACSEventSchemeEditor::OnCopyToImp(QList<QString> keys)
     const auto* const pPopup = qobject_cast<ACSEventCopyToPopup*>(sender());
     if (pPopup == nullptr)
         return;
-    if (pPopup->GetMode() == ACSEventCopyToPopup::ModeDoor) {
-        SchemeCopy::Copy(m_schemes, m_selection.strSource, keys,
-                         AlarmSchemeCommon::ACSAlarmEvent() + AlarmSchemeCommon::ACSAbnormalEvent() +
-                             AlarmSchemeCommon::ACSNormalEvent());
-    } else if (pPopup->GetMode() == ACSEventCopyToPopup::ModeAlarmInput) {
-        SchemeCopy::Copy(m_schemes, m_selection.strAlarmInput, keys, {m_selection.iAlarmInputType});
-    }
+    const bool bDoor = pPopup->GetMode() == ACSCopy::Door;
+    m_schemes =
+        SchemeCopy::Copy(std::move(m_schemes), bDoor ? m_selection.strSource : m_selection.strAlarmInput,
+                         keys, bDoor ? SchemeCopy::DoorEventTypes() : SchemeCopy::AlarmInputEventTypes());
     RefreshMarks();
 }
 
