@@ -7,10 +7,24 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
+#include <initializer_list>
 #include <optional>
 
 struct sqlite3;
-struct sqlite3_stmt;
+
+class AlarmSchemeQuery;
+class StatementArgument;
+
+/// Why a statement failed, in SQLite's words.
+struct AlarmSchemeStatementFailure
+{
+    /// A text that must never reach SQLite because it holds a double quote or a NUL.
+    static constexpr int32_t TextRefused = -2;
+
+    int32_t iCode = 0; ///< SQLite's extended result code, or TextRefused
+    QString strMessage;
+};
 
 /// The SQLite store of alarm schemes, "AlarmScheme.db" in the database directory of the system library.
 ///
@@ -22,7 +36,14 @@ struct sqlite3_stmt;
 class ALARMSCHEMESTORE_EXPORT AlarmSchemeDatabaseParser
 {
 public:
+    /// Is given the fresh connection before any statement runs on it, for a busy handler or checks of the
+    /// store's user; false leaves the store closed.
+    using ConnectionSetup = std::function<bool(sqlite3*)>;
+    /// Is asked before each scheme of a long write; false ends the write early.
+    using GoOn = std::function<bool()>;
+
     AlarmSchemeDatabaseParser();
+    explicit AlarmSchemeDatabaseParser(const ConnectionSetup& setup);
     virtual ~AlarmSchemeDatabaseParser();
     AlarmSchemeDatabaseParser(const AlarmSchemeDatabaseParser&) = delete;
     AlarmSchemeDatabaseParser& operator=(const AlarmSchemeDatabaseParser&) = delete;
@@ -42,6 +63,8 @@ public:
     /// Statements that failed since the store was made, the expected duplicate column at opening not counted.
     /// A text that must never reach SQLite (it holds a double quote or a NUL) counts too.
     int64_t FailedStatements() const;
+    /// The first failure since the last call, a failed opening included; nothing when there was none.
+    std::optional<AlarmSchemeStatementFailure> TakeFirstFailure();
 
     // Reads: each first resets its part of the destination.
     int32_t ReadOpen(const AlarmSourceKey& key, AlarmInfo& out);
@@ -68,14 +91,58 @@ public:
     int32_t SaveVideo(const AlarmSourceKey& key, const AlarmVideoSplit& split);
 
     /// The whole map; stored schemes that it does not hold are disabled. -1 when closed or null.
-    int32_t SaveAll(const AlarmInfoMap* pMap);
+    int32_t SaveAll(const AlarmInfoMap* pMap, const GoOn& goOn = {});
     int32_t DeleteSchemes(const QList<AlarmSourceKey>& keys);       ///< -1 for an empty list
     int32_t DeleteAllSchemesBut(const QList<AlarmSourceKey>& keys); ///< -1 for an empty list
     int32_t DisableAllSchemesBut(const AlarmInfoMap& map);
 
 private:
+    void Open(const ConnectionSetup& setup);
+    void Close();
+    void AcceptQuotedTexts();
+    void CreateSchema();
+    void AddMailColumn();
+
+    /// A statement of fixed text, and one whose placeholders are filled first.
+    int32_t ExecFixed(const char* szStatement);
+    int32_t ExecFilled(const char* szTemplate, std::initializer_list<StatementArgument> arguments);
+    AlarmSchemeQuery Prepare(const QString& strSql);
+    AlarmSchemeQuery PrepareFilled(const char* szTemplate,
+                                   std::initializer_list<StatementArgument> arguments);
+    bool NextRow(AlarmSchemeQuery& query);
+    void CountFailure(int32_t iCode, const QString& strMessage);
+    void RefuseText();
+
+    int32_t ReadOpen(const AlarmSourceKey& key, AlarmInfo& out, bool* pFound);
+    int32_t ReadDefenceTime(const AlarmSourceKey& key, AlarmInfo& out, bool* pFound);
+
+    std::optional<int64_t> FirstId(const char* szTemplate,
+                                   std::initializer_list<StatementArgument> arguments);
+    std::optional<QString> LinkText(const char* szTemplate, int64_t iLinkId);
+
+    struct StoredScheme
+    {
+        int64_t iId = -1;
+        AlarmSourceKey key;
+    };
+    /// Every scheme row with a key, in row order; nothing when the list cannot be read.
+    std::optional<QList<StoredScheme>> ReadStoredSchemes();
+
+    std::optional<int64_t> EnsureScheme(const AlarmSourceKey& key);
+    void EnsureBaseRow(int64_t iSchemeId);
+    void SaveAlarmOutLink(int64_t iSchemeId, const AlarmLinkAlarmOut& link);
+    void SaveVideoLink(int64_t iSchemeId, int32_t iWindow, const AlarmLinkVideo& link);
+    void SaveSplit(int64_t iSchemeId, const AlarmVideoSplit& split);
+    void Stamp();
+
+    using KeyTest = std::function<bool(const AlarmSourceKey&)>;
+    /// Runs the statement over the ids of all stored schemes that pass the test, then stamps; without any
+    /// such scheme nothing is run.
+    int32_t ExecForSchemes(const char* szTemplate, const KeyTest& test);
+
     QString m_strPath;
     sqlite3* m_pDatabase = nullptr;
     int32_t m_iDepth = 0;
     int64_t m_iFailed = 0;
+    std::optional<AlarmSchemeStatementFailure> m_firstFailure;
 };

@@ -55,6 +55,10 @@ public:
     using Listener = void (*)(const Entry& entry, void* pContext);
     void SetListener(Listener listener, void* pContext);
 
+    /// Waits until everything logged before is written or dropped; false when that took longer. A message of
+    /// level LogFatal and the end of the program wait so by themselves, for at most a second.
+    bool Flush(int iTimeOutMilliseconds);
+
     DPrintLog(const DPrintLog&) = delete;
     DPrintLog& operator=(const DPrintLog&) = delete;
 

@@ -1,0 +1,145 @@
+#include "client/store/SchemeStoreOutcome.h"
+
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+
+#include <sqlite3.h>
+
+namespace {
+
+/// Extended result codes carry the primary one in their lowest byte.
+constexpr int PrimaryCode = 0xFF;
+
+} // namespace
+
+SchemeStoreOutcome::Reason ReasonOfFailure(const AlarmSchemeStatementFailure& failure)
+{
+    using Reason = SchemeStoreOutcome::Reason;
+    if (failure.iCode == AlarmSchemeStatementFailure::TextRefused)
+        return Reason::BadText;
+    if (failure.iCode == SQLITE_READONLY_DBMOVED)
+        return Reason::Moved;
+    switch (failure.iCode & PrimaryCode) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return Reason::Locked;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return Reason::ReadOnly;
+    case SQLITE_FULL:
+        return Reason::DiskFull;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return Reason::Damaged;
+    case SQLITE_CANTOPEN:
+        return Reason::NotOpen;
+    default:
+        return Reason::Other;
+    }
+}
+
+QString SchemeStoreOutcome::Text() const
+{
+    return strNext.isEmpty() ? strWhat : tr("%1 %2", "what happened, what to do next").arg(strWhat, strNext);
+}
+
+SchemeStoreOutcome SchemeStoreOutcome::Success(Operation eOperation, int iSchemes)
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = eOperation;
+    outcome.iSchemes = iSchemes;
+    outcome.strWhat = eOperation == Operation::Load ? tr("%n scheme(s) loaded.", nullptr, iSchemes)
+                                                    : tr("%n scheme(s) saved.", nullptr, iSchemes);
+    return outcome;
+}
+
+SchemeStoreOutcome SchemeStoreOutcome::Failure(Operation eOperation, Reason eReason,
+                                               const QString& strTechnical)
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = eOperation;
+    outcome.eReason = eReason;
+    outcome.strTechnical = strTechnical;
+    const QString reason = ReasonText(eReason);
+    outcome.strWhat = eOperation == Operation::Load
+                          ? tr("The schemes could not be loaded completely: %1").arg(reason)
+                          : tr("Nothing was saved: %1").arg(reason);
+    outcome.strNext = eOperation == Operation::Load ? NextAfterLoad(eReason) : NextAfterSave(eReason);
+    return outcome;
+}
+
+SchemeStoreOutcome SchemeStoreOutcome::RefusedSave(const SchemeStoreOutcome& load)
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = Operation::Save;
+    outcome.eReason = load.eReason == Reason::NotLoaded ? Reason::NotLoaded : Reason::LoadFailed;
+    outcome.strTechnical = load.strTechnical;
+    outcome.strWhat = tr("Nothing was saved, because schemes that were not loaded would be switched off. %1")
+                          .arg(load.strWhat);
+    outcome.strNext = load.strNext;
+    return outcome;
+}
+
+QString SchemeStoreOutcome::ReasonText(Reason eReason)
+{
+    switch (eReason) {
+    case Reason::NotOpen:
+        return tr("the scheme database cannot be opened.");
+    case Reason::Locked:
+        return tr("another program is using the scheme database.");
+    case Reason::ReadOnly:
+        return tr("the scheme database or its folder is write-protected.");
+    case Reason::DiskFull:
+        return tr("the disk is full.");
+    case Reason::Damaged:
+        return tr("the scheme database is damaged.");
+    case Reason::Moved:
+        return tr("the scheme database was moved or replaced while the program was running.");
+    case Reason::NotLoaded:
+        return tr("the schemes have not been loaded yet.");
+    case Reason::BadText:
+        return tr("an event source holds a character that cannot be stored.");
+    case Reason::None:
+    case Reason::LoadFailed:
+    case Reason::Other:
+        break;
+    }
+    return tr("the scheme database reported an error.");
+}
+
+QString SchemeStoreOutcome::NextAfterLoad(Reason eReason)
+{
+    switch (eReason) {
+    case Reason::Locked:
+        return tr("Close the other program, then start this program again.");
+    case Reason::NotOpen:
+    case Reason::ReadOnly:
+        return tr("Check the rights on the database folder, then start this program again.");
+    case Reason::DiskFull:
+        return tr("Free some space, then start this program again.");
+    case Reason::Damaged:
+    case Reason::BadText:
+        return tr("The file was left as it is. Restore a copy of it, then start this program again.");
+    default:
+        return tr("Start this program again; if it happens again, see the log file.");
+    }
+}
+
+QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
+{
+    switch (eReason) {
+    case Reason::Locked:
+        return tr("Your changes are still here. Close the other program, then save again.");
+    case Reason::NotOpen:
+    case Reason::ReadOnly:
+        return tr("Your changes are still here. Check the rights on the database folder, then save again.");
+    case Reason::DiskFull:
+        return tr("Your changes are still here. Free some space, then save again.");
+    case Reason::Moved:
+        return tr("Your changes are still here. Put the file back, then start this program again.");
+    case Reason::Damaged:
+        return tr("Restore a copy of the file, then start this program again.");
+    default:
+        return tr("Your changes are still here. Save again; if it happens again, see the log file.");
+    }
+}

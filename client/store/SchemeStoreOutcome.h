@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+struct AlarmSchemeStatementFailure;
+
+/// How one load or save of the schemes ended, for the operator.
+struct SchemeStoreOutcome
+{
+    Q_DECLARE_TR_FUNCTIONS(SchemeStoreOutcome)
+
+public:
+    enum class Operation
+    {
+        Load,
+        Save,
+    };
+    enum class Reason
+    {
+        None,       ///< it succeeded
+        NotOpen,    ///< the database file or its directory cannot be opened
+        Locked,     ///< another program held the database for the whole waiting time
+        ReadOnly,   ///< the file or its directory cannot be written
+        DiskFull,   ///< no room for the file or its journal
+        Damaged,    ///< the file is no database, or its content is damaged
+        Moved,      ///< the file was moved, removed or replaced while the program ran
+        NotLoaded,  ///< refused to save: nothing was loaded before
+        LoadFailed, ///< refused to save: the last load failed or was partial
+        BadText,    ///< a key holds a character that cannot be stored
+        Other,      ///< any other failure of a statement
+    };
+
+    Operation eOperation = Operation::Load;
+    Reason eReason = Reason::None;
+    int iSchemes = 0;     ///< schemes read or written; 0 for a failed save
+    QString strWhat;      ///< what happened, one translated sentence or two
+    QString strNext;      ///< what to do next, translated; empty when there is nothing to do
+    QString strTechnical; ///< the database's own words, untranslated; empty when there are none
+
+    bool IsSuccess() const { return eReason == Reason::None; }
+    /// Both sentences for a message box or a note.
+    QString Text() const;
+
+    static SchemeStoreOutcome Success(Operation eOperation, int iSchemes);
+    static SchemeStoreOutcome Failure(Operation eOperation, Reason eReason, const QString& strTechnical);
+    /// A save that is refused because the last load ended as `load`.
+    static SchemeStoreOutcome RefusedSave(const SchemeStoreOutcome& load);
+
+private:
+    static QString ReasonText(Reason eReason);
+    static QString NextAfterLoad(Reason eReason);
+    static QString NextAfterSave(Reason eReason);
+};
+
+/// What a failed statement means for the operator.
+SchemeStoreOutcome::Reason ReasonOfFailure(const AlarmSchemeStatementFailure& failure);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+/// The store together with what its connection needs before the first statement: the time that may be spent
+/// waiting for other processes, and a look at the file's health. A damaged file is opened for reading only,
+/// so that opening it does not change it.
+class StoreConnection
+{
+public:
+    StoreConnection() = default;
+    StoreConnection(const StoreConnection&) = delete;
+    StoreConnection& operator=(const StoreConnection&) = delete;
+
+    /// Sets the time that may be spent waiting from now on, over all statements together.
+    void AllowWaiting(std::chrono::milliseconds time);
+
+    /// Creates the database directory and opens the store; what was open before is closed.
+    void Open();
+    void Close();
+
+    bool IsOpen() const;
+    AlarmSchemeDatabaseParser* Store() const { return m_store.get(); } ///< null before Open()
+
+    /// Why the last opening did not go well; nothing when it did. The store may be open all the same.
+    const std::optional<AlarmSchemeStatementFailure>& OpeningFailure() const { return m_failure; }
+    /// Whether the file still is where it was opened.
+    bool IsMoved() const;
+
+private:
+    static int OnBusy(void* pSelf, int iCount);
+    bool SetUp(sqlite3* pDatabase);
+    bool IsBusy(sqlite3* pDatabase, int iCode);
+    void CheckHealth(sqlite3* pDatabase);
+
+    std::chrono::steady_clock::time_point m_deadline{};
+    std::optional<AlarmSchemeStatementFailure> m_failure;
+    // Last: its connection calls back into the members above until it is closed.
+    std::unique_ptr<AlarmSchemeDatabaseParser> m_store;
+};
