@@ -1,0 +1,57 @@
+#include "AlarmCtrl/QAlarmCopyToPopup.h"
+
+#include "AlarmCtrl/AlarmCopyModes.h"
+#include "AlarmCtrl/DeviceTreePicker.h"
+#include "AlarmCtrl/PopupPlacement.h"
+#include "platform/VantaComponent/GroupTreeCtrl.h"
+#include "platform/VantaModel/GroupTreeModel.h"
+#include "plugin/host_services/HostServices.h"
+#include "ui_QAlarmCopyToPopup.h"
+
+QAlarmCopyToPopup::QAlarmCopyToPopup(int iMode, QWidget* parent)
+    : LXGUI::LXCustomDialog(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, parent, true)
+    , m_ui(std::make_unique<Ui::QAlarmCopyToPopup>())
+    , m_iMode(iMode)
+{
+    m_ui->setupUi(GetCentralWidget());
+    SetTitle(tr("Copy to"));
+    setFixedSize(222, 500);
+
+    VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    auto* const pModel = new VantaModel::GroupTreeModel(pManager, 0, m_ui->wndDevTree);
+    m_pPicker = new DeviceTreePicker(pManager, pModel, m_ui->wndDevTree);
+    m_pTicked = new TickedNodes(pModel, m_ui->wndDevTree);
+    if (const CopyMode* const pMode = CopyMode::Find(AlarmCopyModes(), iMode))
+        m_pPicker->Offer(pMode->offer);
+
+    connect(m_pPicker->Tree(), &VantaComponent::GroupTreeCtrl::SignalChecked, this,
+            &QAlarmCopyToPopup::OnGroupTreeChkChanged);
+    connect(this, &LXCustomDialog::SignalOkButtonClicked, this, &QAlarmCopyToPopup::OnOk);
+    connect(this, &LXCustomDialog::SignalCancelButtonClicked, this, &QAlarmCopyToPopup::OnCancel);
+    PopupPlacement::PlaceAboveParent(*this);
+}
+
+QAlarmCopyToPopup::~QAlarmCopyToPopup() = default;
+
+void QAlarmCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool bChecked)
+{
+    m_pTicked->Apply(m_pPicker->FollowCheck(index, bChecked));
+}
+
+void QAlarmCopyToPopup::OnOk()
+{
+    const CopyMode* const pMode = CopyMode::Find(AlarmCopyModes(), m_iMode);
+    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    if (pMode != nullptr && pManager != nullptr) {
+        const QList<QString> listKeys = pMode->SourceKeys(m_pTicked->Nodes(), *pManager);
+        if (!listKeys.isEmpty())
+            Q_EMIT SignalCopyTo(listKeys);
+    }
+    done(Accepted);
+}
+
+void QAlarmCopyToPopup::OnCancel()
+{
+    // Not close(): that asks reject(), which is where the cancel signal comes from.
+    done(Rejected);
+}

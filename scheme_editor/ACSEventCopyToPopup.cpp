@@ -1,0 +1,60 @@
+#include "scheme_editor/ACSEventCopyToPopup.h"
+
+#include "AlarmCtrl/DeviceTreePicker.h"
+#include "AlarmCtrl/PopupPlacement.h"
+#include "platform/VantaComponent/GroupTreeCtrl.h"
+#include "platform/VantaModel/ACSGroupTreeModel.h"
+#include "plugin/host_services/HostServices.h"
+#include "scheme_editor/ACSCopyModes.h"
+#include "ui_ACSEventCopyToPopup.h"
+
+ACSEventCopyToPopup::ACSEventCopyToPopup(int iMode, QWidget* parent)
+    : LXGUI::LXCustomDialog(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, parent, true)
+    , m_ui(std::make_unique<Ui::ACSEventCopyToPopup>())
+    , m_iMode(iMode)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_ui->setupUi(GetCentralWidget());
+    SetTitle(tr("Copy to"));
+    setFixedSize(222, 500);
+
+    VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    auto* const pModel = new VantaModel::ACSGroupTreeModel(pManager, 1, m_ui->wndDevTree);
+    pModel->SetExpandInterface(HostServices::TreeExpansion());
+    m_pPicker = new DeviceTreePicker(pManager, pModel, m_ui->wndDevTree);
+    m_pTicked = new TickedNodes(pModel, m_ui->wndDevTree);
+    m_pPicker->Tree()->AddDeviceWhiteList(VantaLogic::DeviceTypeAccessControl);
+    if (const CopyMode* const pMode = CopyMode::Find(ACSCopy::Modes(), iMode))
+        m_pPicker->Offer(pMode->offer);
+
+    connect(m_pPicker->Tree(), &VantaComponent::GroupTreeCtrl::SignalChecked, this,
+            &ACSEventCopyToPopup::OnGroupTreeChkChanged);
+    connect(this, &LXCustomDialog::SignalOkButtonClicked, this, &ACSEventCopyToPopup::OnOk);
+    connect(this, &LXCustomDialog::SignalCancelButtonClicked, this, &ACSEventCopyToPopup::OnCancel);
+    PopupPlacement::PlaceAboveParent(*this);
+}
+
+ACSEventCopyToPopup::~ACSEventCopyToPopup() = default;
+
+void ACSEventCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool bChecked)
+{
+    m_pTicked->Apply(m_pPicker->FollowCheck(index, bChecked));
+}
+
+void ACSEventCopyToPopup::OnOk()
+{
+    const CopyMode* const pMode = CopyMode::Find(ACSCopy::Modes(), m_iMode);
+    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    if (pMode != nullptr && pManager != nullptr) {
+        const QList<QString> listKeys = pMode->SourceKeys(m_pTicked->Nodes(), *pManager);
+        if (!listKeys.isEmpty())
+            Q_EMIT SignalCopyTo(listKeys);
+    }
+    done(Accepted);
+}
+
+void ACSEventCopyToPopup::OnCancel()
+{
+    // Not close(): that asks reject(), which is where the cancel signal comes from.
+    done(Rejected);
+}

@@ -1,0 +1,55 @@
+#include "tools/CommandLine.h"
+
+#include "tools/MakeSiteCommand.h"
+
+#include <QTextStream>
+
+#include <algorithm>
+
+CommandLine::CommandLine()
+{
+    m_commands.push_back(std::make_unique<MakeSiteCommand>());
+}
+
+CommandLine::~CommandLine() = default;
+
+Command* CommandLine::Find(const QString& strName) const
+{
+    const auto found = std::find_if(m_commands.begin(), m_commands.end(),
+                                    [&strName](const auto& pCommand) { return pCommand->Name() == strName; });
+    return found == m_commands.end() ? nullptr : found->get();
+}
+
+QString CommandLine::Help() const
+{
+    QString strHelp = tr("Usage: acs-scheme <command> [options]") + QLatin1String("\n\n") + tr("Commands:") +
+                      QLatin1Char('\n');
+    for (const auto& pCommand : m_commands)
+        strHelp +=
+            QStringLiteral("  %1  %2\n").arg(pCommand->Name().leftJustified(12), pCommand->Description());
+    return strHelp + QLatin1Char('\n') + tr("\"acs-scheme <command> --help\" lists a command's options.") +
+           QLatin1Char('\n');
+}
+
+int CommandLine::Run(const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    const QString strFirst = arguments.value(1);
+    if (strFirst == QLatin1String("--help") || strFirst == QLatin1String("-h")) {
+        out << Help();
+        return ExitCode::Done;
+    }
+    if (strFirst == QLatin1String("--version") || strFirst == QLatin1String("-v")) {
+        out << QStringLiteral("acs-scheme %1\n").arg(QCoreApplication::applicationVersion());
+        return ExitCode::Done;
+    }
+    Command* const pCommand = Find(strFirst);
+    if (pCommand == nullptr) {
+        err << (strFirst.isEmpty() ? tr("No command given.") : tr("Unknown command \"%1\".").arg(strFirst))
+            << "\n\n"
+            << Help();
+        return ExitCode::WrongUse;
+    }
+    QStringList rest = arguments.mid(1);
+    rest.first() = QStringLiteral("acs-scheme ") + pCommand->Name();
+    return pCommand->Run(rest, out, err);
+}
