@@ -1,8 +1,6 @@
 #include "scheme_editor/ACSEventSchemeEditor.h"
 
-#include "AlarmCtrl/QAlarmDefenceTimeEditor.h"
 #include "AlarmCtrl/QAlarmListItemView.h"
-#include "AlarmCtrl/QAlarmOutEditor.h"
 #include "platform/LXGUI/LXPushButton.h"
 #include "platform/LXGUI/LXSwitchButton.h"
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
@@ -17,13 +15,13 @@
 #include "plugin/host_services/HostServices.h"
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
-#include "scheme_editor/ACSEventNotifyEditor.h"
 #include "scheme_editor/AlarmInputTree.h"
 #include "scheme_editor/CategoryColumn.h"
 #include "scheme_editor/DeviceSchemes.h"
 #include "scheme_editor/EventSourceLookup.h"
 #include "scheme_editor/QNoFocusItemDelegate.h"
 #include "scheme_editor/SchemeCopy.h"
+#include "scheme_editor/SchemeForm.h"
 #include "scheme_editor/TabLayout.h"
 #include "ui_ACSEventSchemeEditor.h"
 
@@ -75,9 +73,8 @@ std::array<ACSEventSchemeEditor::EventCategory, 3> ACSEventSchemeEditor::EventCa
 
 std::array<ACSEventSchemeEditor::SettingsTab, 3> ACSEventSchemeEditor::SettingsTabs() const
 {
-    return {{{m_ui->btnNotify, m_pNotifyEditor},
-             {m_ui->btnAlarmOut, m_pAlarmOutEditor},
-             {m_ui->btnDefTime, m_pDefenceTimeEditor}}};
+    const std::array<QWidget*, 3> editors = m_form->Editors();
+    return {{{m_ui->btnNotify, editors[0]}, {m_ui->btnAlarmOut, editors[1]}, {m_ui->btnDefTime, editors[2]}}};
 }
 
 void ACSEventSchemeEditor::Init(const LXPluginAPI::ManagerList* pManagers)
@@ -90,7 +87,7 @@ void ACSEventSchemeEditor::Init(const LXPluginAPI::ManagerList* pManagers)
 
     BuildDeviceTree();
     m_ui->treeAlarmIn->setItemDelegate(new QNoFocusItemDelegate(this));
-    BuildSubEditors();
+    m_form = std::make_unique<SchemeForm>(m_ui->btnOpenStatus, m_ui->wndSubSetting);
     FillEventLists();
 
     // The narrow first column holds until the viewport is resized for the first time.
@@ -159,18 +156,6 @@ void ACSEventSchemeEditor::BuildDeviceTree()
             &ACSEventSchemeEditor::OnGroupTreeFocusChanged);
     connect(m_pTree, &VantaComponent::GroupTreeCtrl::SignalRemoveDevice, this,
             &ACSEventSchemeEditor::OnRemoveDevice);
-}
-
-void ACSEventSchemeEditor::BuildSubEditors()
-{
-    auto* const pLayout = new QHBoxLayout(m_ui->wndSubSetting);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    m_pNotifyEditor = new ACSEventNotifyEditor(m_ui->wndSubSetting);
-    m_pAlarmOutEditor = new QAlarmOutEditor(m_ui->wndSubSetting);
-    m_pDefenceTimeEditor = new QAlarmDefenceTimeEditor(m_ui->wndSubSetting);
-    pLayout->addWidget(m_pNotifyEditor);
-    pLayout->addWidget(m_pAlarmOutEditor);
-    pLayout->addWidget(m_pDefenceTimeEditor);
 }
 
 void ACSEventSchemeEditor::FillEventLists()
@@ -332,31 +317,14 @@ void ACSEventSchemeEditor::LoadCurrentScheme()
 void ACSEventSchemeEditor::ShowScheme(const AlarmInfo& info)
 {
     RefreshMarks();
-    m_ui->btnOpenStatus->setToggle(info.bOpen);
-    m_pNotifyEditor->SetNotifyInfo({info.bOpenSound, info.bEmapTwinkle, info.bSendEmail});
-    m_pAlarmOutEditor->SetAlarmOutInfo(info.listAlarmOut);
-    m_pDefenceTimeEditor->SetDefenceTime(info.defenceTime.data());
+    m_form->Show(info);
 }
 
 void ACSEventSchemeEditor::StoreEditors()
 {
     const std::optional<AlarmSourceKey> key = m_selection.CurrentKey();
-    if (!key)
-        return;
-    AlarmInfo& info = m_schemes[*key];
-    info.bOpen = m_ui->btnOpenStatus->isToggled();
-
-    AlarmNotifyInfo notify{info.bOpenSound, info.bEmapTwinkle, info.bSendEmail};
-    m_pNotifyEditor->GetNotifyInfo(notify);
-    info.bOpenSound = notify.bOpenSound;
-    info.bSendEmail = notify.bSendEmail;
-
-    m_pAlarmOutEditor->GetAlarmOutInfo(info.listAlarmOut);
-
-    // Only a week that differs is written, so that untouched schemes go on sharing theirs.
-    AlarmWeek week;
-    if (m_pDefenceTimeEditor->GetDefenceTime(week.data()) == 0 && week != info.defenceTime)
-        info.defenceTime = week;
+    if (key)
+        m_form->Store(m_schemes[*key]);
 }
 
 void ACSEventSchemeEditor::OnOpenStatusChanged(bool bOpen)

@@ -12,12 +12,10 @@
 #include <cstdint>
 #include <memory>
 
-class ACSEventNotifyEditor;
-class QAlarmDefenceTimeEditor;
 class QAlarmListItemView;
-class QAlarmOutEditor;
 class QPushButton;
 class QTreeWidgetItem;
+class SchemeForm;
 
 namespace Ui {
 class ACSEventSchemeEditor;
@@ -84,7 +82,6 @@ private:
     std::array<SettingsTab, 3> SettingsTabs() const;
 
     void BuildDeviceTree();
-    void BuildSubEditors();
     void FillEventLists();
     void SelectSource(const QString& strKey, int32_t iCategory);
     void RebuildAlarmInputs(const QString& strKey);
@@ -100,9 +97,7 @@ private:
     std::unique_ptr<Ui::ACSEventSchemeEditor> m_ui;
     bool m_bInitialized = false;
     const LXPluginAPI::ManagerList* m_pManagers = nullptr;
-    ACSEventNotifyEditor* m_pNotifyEditor = nullptr;
-    QAlarmOutEditor* m_pAlarmOutEditor = nullptr;
-    QAlarmDefenceTimeEditor* m_pDefenceTimeEditor = nullptr;
+    std::unique_ptr<SchemeForm> m_form;
     VantaComponent::GroupTreeCtrl* m_pTree = nullptr;
     VantaModel::ACSGroupTreeModel* m_pTreeModel = nullptr;
     SchemeSelection m_selection;
