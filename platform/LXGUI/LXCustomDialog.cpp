@@ -6,6 +6,7 @@
 #include <QMetaMethod>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -47,6 +48,9 @@ void LXCustomDialog::DressButtons(bool bPopup)
         pOk->setText(tr("OK"));
         pOk->setProperty("primary", true);
         pOk->setDefault(true);
+        // The box has let the style look at its buttons already, and a style asks for properties only once.
+        pOk->style()->unpolish(pOk);
+        pOk->style()->polish(pOk);
     }
     if (QPushButton* pCancel = GetButton(QDialogButtonBox::Cancel)) {
         pCancel->setText(tr("Cancel"));

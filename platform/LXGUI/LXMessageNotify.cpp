@@ -17,6 +17,7 @@ constexpr int MostNotes = 4;
 constexpr int NoteWidth = 320;
 constexpr int NarrowestNote = 120;
 constexpr int Margin = 16;
+constexpr int PageBar = 48; // what a page keeps at its foot for its buttons stays free
 constexpr int Gap = 8;
 
 } // namespace
@@ -90,7 +91,8 @@ void LXMessageNotify::Private::Arrange() const
         return;
     }
     const auto* pStatus = pAnchor->findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly);
-    int iBottom = pAnchor->height() - Margin - (pStatus && !pStatus->isHidden() ? pStatus->height() : 0);
+    int iBottom =
+        pAnchor->height() - Margin - PageBar - (pStatus && !pStatus->isHidden() ? pStatus->height() : 0);
     const int iWidth = std::max(NarrowestNote, std::min(NoteWidth, pAnchor->width() - 2 * Margin));
     const QVector<LXMessageNotePanel*> staying = Staying();
     for (auto it = staying.crbegin(); it != staying.crend(); ++it) {
