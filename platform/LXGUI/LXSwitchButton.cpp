@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QVariantAnimation>
 
@@ -70,9 +71,21 @@ QSize LXSwitchButton::minimumSizeHint() const
     return sizeHint();
 }
 
+void LXSwitchButton::nextCheckState()
+{
+    const QPointer<LXSwitchButton> guard(this);
+    m_bByPerson = true;
+    QAbstractButton::nextCheckState();
+    if (guard) {
+        m_bByPerson = false;
+    }
+}
+
 void LXSwitchButton::checkStateSet()
 {
-    ShowStateAtOnce();
+    if (!m_bByPerson) {
+        ShowStateAtOnce();
+    }
 }
 
 bool LXSwitchButton::hitButton(const QPoint& pos) const

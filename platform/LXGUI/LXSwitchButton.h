@@ -25,6 +25,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void nextCheckState() override;
     void checkStateSet() override;
     bool hitButton(const QPoint& pos) const override;
     void paintEvent(QPaintEvent* event) override;
@@ -37,7 +38,8 @@ private:
     void ShowStateAtOnce();
 
     QVariantAnimation* m_pSlide;
-    qreal m_knob = 0.0; ///< 0 off to 1 on
+    qreal m_knob = 0.0;       ///< 0 off to 1 on
+    bool m_bByPerson = false; ///< a click or key is changing the state: the knob slides
 };
 
 } // namespace LXGUI
