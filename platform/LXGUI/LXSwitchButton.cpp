@@ -6,7 +6,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QSignalBlocker>
 #include <QVariantAnimation>
 
@@ -41,8 +40,6 @@ LXSwitchButton::LXSwitchButton(QWidget* parent)
         m_knob = value.toReal();
         update();
     });
-    // The first connection of all: the knob moves before anybody asks the operator about the new state.
-    connect(this, &QAbstractButton::toggled, this, &LXSwitchButton::MoveKnob);
 }
 
 LXSwitchButton::~LXSwitchButton() = default;
@@ -73,12 +70,16 @@ QSize LXSwitchButton::minimumSizeHint() const
 
 void LXSwitchButton::nextCheckState()
 {
-    const QPointer<LXSwitchButton> guard(this);
+    // QAbstractButton touches the button again after toggled(), but a slot may run an event loop in which the
+    // button dies. So the state changes in silence first, and the signal is the last thing that happens here.
     m_bByPerson = true;
-    QAbstractButton::nextCheckState();
-    if (guard) {
-        m_bByPerson = false;
+    {
+        const QSignalBlocker blocker(this);
+        QAbstractButton::nextCheckState();
     }
+    m_bByPerson = false;
+    MoveKnob(isChecked());
+    Q_EMIT toggled(isChecked());
 }
 
 void LXSwitchButton::checkStateSet()
