@@ -37,6 +37,8 @@ public:
     void SetExpandInterface(VantaLogic::ITreeExpansion* pExpansion);
     VantaLogic::ITreeExpansion* GetExpandInterface() const;
     int GetMode() const;
+    /// Colour of devices that are offline or switched off; at first the palette's for placeholders.
+    void SetDimBrush(const QBrush& brush);
 
     /// Builds the tree if something has changed since the last build.
     void EnsureBuilt();
@@ -45,12 +47,15 @@ public:
     QStandardItem* FindNode(int64_t iNodeId, int32_t iNodeKind) const;
 
     /// Sets an item's check state, cascades it to the items below that `accept` admits (all of them when
-    /// empty) and brings the states of the items above into line. Items that already are in the state asked
-    /// for are not touched. Null is accepted and ignored.
+    /// empty; what lies below a refused item is not asked about) and brings the states of the items above
+    /// into line. Items that already are in the state asked for are not touched. Null is accepted and
+    /// ignored. The state of an item with items below it always follows from theirs.
     void SetChecked(QStandardItem* pItem, bool bChecked,
                     const std::function<bool(const QModelIndex&)>& accept = {});
 
 Q_SIGNALS:
+    /// A change of the site has been worked in completely (rows, names, states), or the tree was rebuilt.
+    void TreeUpdated();
     /// Once for every device that really left the site, after its rows are gone. Not for devices that were
     /// never offered by this tree's lists.
     void DeviceRemoved(int64_t iDeviceId);

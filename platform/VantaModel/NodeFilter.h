@@ -28,4 +28,11 @@ struct NodeFilter
     }
 };
 
+inline bool operator==(const NodeFilter& a, const NodeFilter& b)
+{
+    return a.deviceWhiteList == b.deviceWhiteList && a.deviceBlackList == b.deviceBlackList &&
+           a.channelWhiteList == b.channelWhiteList && a.channelBlackList == b.channelBlackList &&
+           a.bHideChannels == b.bHideChannels && a.bHideEmaps == b.bHideEmaps;
+}
+
 } // namespace VantaModel

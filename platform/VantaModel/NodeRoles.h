@@ -10,6 +10,7 @@ enum NodeRole : int
     NodeIdRole = 1057,      ///< the node's 64-bit id (qlonglong)
     NodeKindRole = 1058,    ///< NodeKind (int)
     ChannelKindRole = 1060, ///< channel kind 0 to 6 of a channel node (int), no data on other nodes
+    NodeNumberRole = 1061,  ///< number on its device of a channel node (int), no data on other nodes
 };
 
 enum NodeKind : int32_t
