@@ -61,7 +61,10 @@ int MakeSiteCommand::Run(const QStringList& arguments, QTextStream& out, QTextSt
     if (!parser.parse(arguments))
         return wrongUse(parser.errorText());
     if (parser.isSet(help)) {
-        out << parser.helpText();
+        // The parser names the program only; the rest of its text is what is wanted here.
+        const QString strText = parser.helpText();
+        out << tr("Usage: %1 --doors N [--seed S] [--output FILE]").arg(arguments.first())
+            << strText.mid(strText.indexOf(QLatin1Char('\n')));
         return ExitCode::Done;
     }
     if (!parser.positionalArguments().isEmpty())

@@ -1,0 +1,139 @@
+// One door's schemes copied to 10,000 doors, beside the same number of plain insertions in the same run.
+
+#include "scheme_editor/SchemeCopy.h"
+
+#include <benchmark/benchmark.h>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace {
+
+constexpr int s_iDoors = 10000;
+constexpr int s_iDoorsPerController = 8;
+const QString s_strSource = QStringLiteral("1$1$0$2");
+
+/// Bytes that the heap holds; 0 where the platform does not tell.
+double HeapBytes()
+{
+#if defined(__GLIBC__) && (__GLIBC__ > 2 || __GLIBC_MINOR__ >= 33)
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+#else
+    return 0.0;
+#endif
+}
+
+AlarmInfo Scheme()
+{
+    AlarmInfo info;
+    info.bOpen = true;
+    info.listAlarmOut = {{QStringLiteral("7$3$0$0"), true, 20}, {QStringLiteral("8$3$0$0"), false, 45}};
+    return info;
+}
+
+AlarmInfoMap SourceOnly()
+{
+    AlarmInfoMap map;
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    for (const int type : types)
+        map.insert(*EventSource::SchemeKey(s_strSource, type), Scheme());
+    return map;
+}
+
+QList<QString> Targets()
+{
+    QList<QString> targets;
+    targets.reserve(s_iDoors);
+    for (int door = 0; door < s_iDoors; ++door)
+        targets.append(EventSource::Door(100 + door / s_iDoorsPerController, 100000 + door));
+    return targets;
+}
+
+void Count(benchmark::State& state, int iEntries, double bytes)
+{
+    state.counters["entries"] = iEntries;
+    if (bytes > 0.0)
+        state.counters["bytes/entry"] = bytes / iEntries;
+    state.SetItemsProcessed(state.iterations() * iEntries);
+}
+
+// The plain container operation: as many entries, in order, without any rule.
+void PlainInsert(benchmark::State& state)
+{
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    const QList<QString> targets = Targets();
+    const AlarmInfo scheme = Scheme();
+    double bytes = 0.0;
+    int entries = 0;
+    for (auto _ : state) {
+        const double before = HeapBytes();
+        AlarmInfoMap map;
+        for (const QString& strTarget : targets) {
+            for (const int type : types)
+                map.insert(map.cend(), {strTarget, type}, scheme);
+        }
+        benchmark::DoNotOptimize(map);
+        state.PauseTiming();
+        bytes = HeapBytes() - before;
+        entries = map.size();
+        map.clear();
+        state.ResumeTiming();
+    }
+    Count(state, entries, bytes);
+}
+
+void CopyIntoEmpty(benchmark::State& state)
+{
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    const QList<QString> targets = Targets();
+    double bytes = 0.0;
+    int entries = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        AlarmInfoMap map = SourceOnly();
+        const double before = HeapBytes();
+        state.ResumeTiming();
+        map = SchemeCopy::Copy(std::move(map), s_strSource, targets, types);
+        state.PauseTiming();
+        bytes = HeapBytes() - before;
+        entries = map.size();
+        map.clear();
+        state.ResumeTiming();
+    }
+    Count(state, entries, bytes);
+}
+
+void CopyOverExisting(benchmark::State& state)
+{
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    const QList<QString> targets = Targets();
+    AlarmInfoMap map = SchemeCopy::Copy(SourceOnly(), s_strSource, targets, types);
+    for (auto _ : state)
+        map = SchemeCopy::Copy(std::move(map), s_strSource, targets, types);
+    Count(state, map.size(), 0.0);
+}
+
+void ClearTargets(benchmark::State& state)
+{
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    const QList<QString> targets = Targets();
+    for (auto _ : state) {
+        state.PauseTiming();
+        AlarmInfoMap map = SchemeCopy::Copy(SourceOnly(), s_strSource, targets, types);
+        const int entries = map.size();
+        state.ResumeTiming();
+        map = SchemeCopy::Copy(std::move(map), QStringLiteral("9$1$0$9"), targets, types);
+        Count(state, entries, 0.0);
+    }
+}
+
+BENCHMARK(PlainInsert)->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyIntoEmpty)->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyOverExisting)->Unit(benchmark::kMillisecond);
+BENCHMARK(ClearTargets)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+} // namespace
+
+BENCHMARK_MAIN();
