@@ -32,7 +32,8 @@ struct ParsedOptions
     QString strText;
 };
 
-/// Reads the command line of acs-client. Pure: looks at nothing but its arguments.
+/// Reads the command line of acs-client. Looks at nothing but its arguments; needs an application object,
+/// with or without a display, for the texts.
 class ClientOptionParser
 {
     Q_DECLARE_TR_FUNCTIONS(ClientOptionParser)

@@ -46,7 +46,11 @@ void HomePage::AddProblem(const QString& strText)
     pLayout->setSpacing(8);
     auto* pIcon = new QLabel(pLine);
     const int iSize = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    pIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(iSize, iSize));
+    QIcon icon(QStringLiteral("./Skin/theme1/notify/warning.png"));
+    if (icon.availableSizes().isEmpty()) {
+        icon = style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this);
+    }
+    pIcon->setPixmap(icon.pixmap(QSize(iSize, iSize)));
     pIcon->setFixedWidth(iSize);
     pLayout->addWidget(pIcon, 0, Qt::AlignTop);
     auto* pText = new QLabel(pLine);

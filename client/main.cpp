@@ -1,22 +1,30 @@
 #include "client/ClientApplication.h"
 #include "client/ClientOptions.h"
+#include "client/ClientPaths.h"
+#include "client/ClientTranslations.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 
 #include <cstdio>
 
 namespace {
 
-// Ends of the program that need no window; -1 when there is something to start.
-int EndEarly(const ParsedOptions& parsed)
+// Reads the command line on an application object without a window: help and wrong options must work where
+// there is no display.
+ParsedOptions ReadCommandLine(int argc, char* argv[])
 {
-    if (parsed.outcome == ParsedOptions::Outcome::Start) {
-        return -1;
-    }
-    const bool bPrint = parsed.outcome == ParsedOptions::Outcome::Print;
-    std::fputs(parsed.strText.toLocal8Bit().constData(), bPrint ? stdout : stderr);
-    return bPrint ? 0 : ClientOptionParser::ExitWrongOptions;
+    const QCoreApplication early(argc, argv);
+    const ClientTranslations translations(
+        ClientTranslations::Choose({}, {}, QLocale::system().name()),
+        ClientPaths::TranslationDirectories(QCoreApplication::applicationDirPath()));
+    return ClientOptionParser::Parse(QCoreApplication::arguments(), QDir::currentPath());
+}
+
+void Print(const QString& strText, std::FILE* pStream)
+{
+    std::fputs(strText.toLocal8Bit().constData(), pStream);
 }
 
 } // namespace
@@ -25,35 +33,34 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#if defined(Q_OS_WIN)
+    // Windows scales in quarters, and the person chose the step.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#else
+    // Elsewhere the factor comes from the screen's measured resolution; an odd one would blur every line.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
+#endif
     QCoreApplication::setApplicationName(QStringLiteral("acs-client"));
 
-    // Help and wrong options must work without a display, so they are looked for before there is one.
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const ParsedOptions parsed = ReadCommandLine(argc, argv);
+    if (parsed.outcome == ParsedOptions::Outcome::Print) {
+        Print(parsed.strText, stdout);
+        return 0;
     }
-    const int iEarly = EndEarly(ClientOptionParser::Parse(arguments, QDir::currentPath()));
-    if (iEarly >= 0) {
-        return iEarly;
+    if (parsed.outcome == ParsedOptions::Outcome::Refuse) {
+        Print(parsed.strText, stderr);
+        return ClientOptionParser::ExitWrongOptions;
     }
 
     const QApplication application(argc, argv);
-    // Once more: the toolkit reads arguments in the system's own encoding and takes out what is its own.
-    const ParsedOptions parsed =
-        ClientOptionParser::Parse(QCoreApplication::arguments(), QDir::currentPath());
-    const int iLate = EndEarly(parsed);
-    if (iLate >= 0) {
-        return iLate;
-    }
     ClientApplication client(parsed.options, QCoreApplication::applicationDirPath());
     if (!client.Start()) {
-        std::fputs(client.ErrorText().append(QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
+        Print(client.ErrorText() + QLatin1Char('\n'), stderr);
         return ClientApplication::ExitNotStarted;
     }
     const int iExit = client.Run();
     if (iExit == ClientApplication::ExitNoPicture) {
-        std::fputs(client.ErrorText().append(QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
+        Print(client.ErrorText() + QLatin1Char('\n'), stderr);
     }
     return iExit;
 }

@@ -1,0 +1,176 @@
+#include "client/ClientSettings.h"
+#include "client/ClientTranslations.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestClientSettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        m_strFile = m_directory->filePath(QStringLiteral("client.ini"));
+    }
+    void aFreshFileHasSoundDefaults();
+    void everythingComesBackAtTheNextStart();
+    void mailSettingsComeBackWithEveryServerInItsPlace();
+    void fewerServersLeaveNothingOfTheOldOnes();
+    void whatTheFileHoldsIsNotTrusted();
+    void aFileThatIsNoIniFileGivesTheDefaults();
+    void aFileThatCannotBeWrittenIsReported();
+    void theLanguageIsTheAskedTheKeptOrTheSystems_data();
+    void theLanguageIsTheAskedTheKeptOrTheSystems();
+    void aMissingCatalogueIsNoError();
+
+private:
+    static SystemMailSettings TwoServers()
+    {
+        SystemMailServer first;
+        first.strServer = QStringLiteral("mail.example.com");
+        first.iPort = 587;
+        first.strUser = QString::fromUtf8("wächter, \"nacht\"; 1=2");
+        first.strSender = QStringLiteral("guard@example.com");
+        SystemMailServer second;
+        second.strServer = QStringLiteral("::1");
+        second.iPort = 65535;
+        second.strSender = QString::fromUtf8("门卫@例子.中国");
+        SystemMailSettings mail;
+        mail.bEnable = true;
+        mail.servers = {first, second};
+        return mail;
+    }
+    void WriteFile(const QByteArray& bytes) const
+    {
+        QFile file(m_strFile);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    }
+    std::unique_ptr<QTemporaryDir> m_directory;
+    QString m_strFile;
+};
+
+void TestClientSettings::aFreshFileHasSoundDefaults()
+{
+    const ClientSettings settings(m_strFile);
+    QVERIFY(settings.Language().isEmpty());
+    QCOMPARE(settings.Theme(), QStringLiteral("dark"));
+    QVERIFY(settings.WindowGeometry().isEmpty());
+    QVERIFY(settings.OpenPages().isEmpty());
+    QVERIFY(settings.TreeExpansion().isEmpty());
+    QVERIFY(settings.Mail() == SystemMailSettings());
+}
+
+void TestClientSettings::everythingComesBackAtTheNextStart()
+{
+    {
+        ClientSettings settings(m_strFile);
+        settings.SetLanguage(QStringLiteral("zh_cn"));
+        settings.SetTheme(QStringLiteral("light"));
+        settings.SetWindowGeometry(QByteArray("\x01\x00\xff geometry", 12));
+        settings.SetOpenPages({QStringLiteral("ACSEventConfigUI")});
+        settings.SetTreeExpansion({QStringLiteral("2:1001:1"), QStringLiteral("1:1:0")});
+        QVERIFY(settings.Write());
+    }
+    const ClientSettings settings(m_strFile);
+    QCOMPARE(settings.Language(), QStringLiteral("zh_cn"));
+    QCOMPARE(settings.Theme(), QStringLiteral("light"));
+    QCOMPARE(settings.WindowGeometry(), QByteArray("\x01\x00\xff geometry", 12));
+    QCOMPARE(settings.OpenPages(), QStringList{QStringLiteral("ACSEventConfigUI")});
+    QCOMPARE(settings.TreeExpansion(), (QStringList{QStringLiteral("2:1001:1"), QStringLiteral("1:1:0")}));
+}
+
+void TestClientSettings::mailSettingsComeBackWithEveryServerInItsPlace()
+{
+    {
+        ClientSettings settings(m_strFile);
+        settings.SetMail(TwoServers());
+        QVERIFY(settings.Mail() == TwoServers());
+    }
+    QVERIFY(ClientSettings(m_strFile).Mail() == TwoServers());
+}
+
+void TestClientSettings::fewerServersLeaveNothingOfTheOldOnes()
+{
+    ClientSettings settings(m_strFile);
+    settings.SetMail(TwoServers());
+    SystemMailSettings one = TwoServers();
+    one.servers.removeFirst();
+    settings.SetMail(one);
+    QVERIFY(ClientSettings(m_strFile).Mail() == one);
+    settings.SetMail(SystemMailSettings());
+    QVERIFY(ClientSettings(m_strFile).Mail() == SystemMailSettings());
+    QFile file(m_strFile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(!file.readAll().contains("guard@example.com"));
+}
+
+void TestClientSettings::whatTheFileHoldsIsNotTrusted()
+{
+    WriteFile("[client]\nlanguage=../../etc\ntheme=pink\n[mail]\nenabled=true\n"
+              "servers\\size=2000000000\nservers\\1\\host=a\nservers\\1\\port=70000\n"
+              "servers\\2\\host=b\nservers\\2\\port=-1\nservers\\3\\host=c\nservers\\3\\port=x\n"
+              "servers\\4\\host=d\nservers\\4\\port=65535\n");
+    const ClientSettings settings(m_strFile);
+    QVERIFY(settings.Language().isEmpty());
+    QCOMPARE(settings.Theme(), QStringLiteral("dark"));
+    const SystemMailSettings mail = settings.Mail();
+    QCOMPARE(mail.servers.size(), int(ClientSettings::MaximumMailServers));
+    QCOMPARE(mail.servers.at(0).iPort, 25);
+    QCOMPARE(mail.servers.at(1).iPort, 25);
+    QCOMPARE(mail.servers.at(2).iPort, 25);
+    QCOMPARE(mail.servers.at(3).iPort, 65535);
+    QCOMPARE(mail.servers.at(3).strServer, QStringLiteral("d"));
+}
+
+void TestClientSettings::aFileThatIsNoIniFileGivesTheDefaults()
+{
+    WriteFile(QByteArray("\x00\xff\xfe[[[\n=\n", 9));
+    const ClientSettings settings(m_strFile);
+    QCOMPARE(settings.Theme(), QStringLiteral("dark"));
+    QVERIFY(settings.Mail() == SystemMailSettings());
+}
+
+void TestClientSettings::aFileThatCannotBeWrittenIsReported()
+{
+    QVERIFY(QDir().mkdir(m_strFile));
+    ClientSettings settings(m_strFile);
+    settings.SetTheme(QStringLiteral("light"));
+    QVERIFY(!settings.Write());
+}
+
+void TestClientSettings::theLanguageIsTheAskedTheKeptOrTheSystems_data()
+{
+    QTest::addColumn<QString>("strAsked");
+    QTest::addColumn<QString>("strKept");
+    QTest::addColumn<QString>("strSystem");
+    QTest::addColumn<QString>("strChosen");
+    const QString strEn = QStringLiteral("en");
+    const QString strZh = QStringLiteral("zh_cn");
+    QTest::newRow("asked beats all") << strEn << strZh << QStringLiteral("zh_CN") << strEn;
+    QTest::newRow("kept beats the system") << QString() << strEn << QStringLiteral("zh_CN") << strEn;
+    QTest::newRow("a Chinese system") << QString() << QString() << QStringLiteral("zh_CN") << strZh;
+    QTest::newRow("any other system") << QString() << QString() << QStringLiteral("de_DE") << strEn;
+    QTest::newRow("no locale") << QString() << QString() << QStringLiteral("C") << strEn;
+}
+
+void TestClientSettings::theLanguageIsTheAskedTheKeptOrTheSystems()
+{
+    QFETCH(QString, strAsked);
+    QFETCH(QString, strKept);
+    QFETCH(QString, strSystem);
+    QFETCH(QString, strChosen);
+    QCOMPARE(ClientTranslations::Choose(strAsked, strKept, strSystem), strChosen);
+}
+
+void TestClientSettings::aMissingCatalogueIsNoError()
+{
+    const ClientTranslations translations(QStringLiteral("en"), {m_directory->path()});
+    QCOMPARE(translations.InstalledCatalogues(), 0);
+}
+
+QTEST_GUILESS_MAIN(TestClientSettings)
+#include "tst_client_settings.moc"
