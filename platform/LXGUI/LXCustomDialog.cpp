@@ -108,7 +108,7 @@ void LXCustomDialog::closeEvent(QCloseEvent* event)
     if (event->spontaneous()) {
         // Qt ignores close() while it handles a close event, and closing is what the user's slot will do.
         event->ignore();
-        QMetaObject::invokeMethod(this, &LXCustomDialog::reject, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "reject", Qt::QueuedConnection);
         return;
     }
     m_bClosing = true;

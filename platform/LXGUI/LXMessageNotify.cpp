@@ -42,7 +42,7 @@ private:
 QVector<LXMessageNotePanel*> LXMessageNotify::Private::Staying() const
 {
     QVector<LXMessageNotePanel*> staying;
-    for (const QPointer<LXMessageNotePanel>& pPanel : panels) {
+    for (const QPointer<LXMessageNotePanel>& pPanel : qAsConst(panels)) {
         if (pPanel && !pPanel->IsLeaving()) {
             staying.append(pPanel.data());
         }
@@ -105,7 +105,7 @@ void LXMessageNotify::Private::Arrange() const
 
 void LXMessageNotify::Private::ClearPanels()
 {
-    for (const QPointer<LXMessageNotePanel>& pPanel : panels) {
+    for (const QPointer<LXMessageNotePanel>& pPanel : qAsConst(panels)) {
         delete pPanel.data();
     }
     panels.clear();

@@ -9,7 +9,7 @@
 namespace LXGUI {
 namespace {
 
-constexpr qint64 LargestFile = 64 * 1024; // a colours file holds about twenty short lines
+constexpr qint64 LargestFile = 65536; // a colours file holds about twenty short lines
 
 struct DefaultColour
 {

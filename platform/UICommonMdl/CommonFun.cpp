@@ -9,7 +9,7 @@
 namespace UICommonMdl {
 namespace {
 
-constexpr qint64 LargestFile = 4 * 1024 * 1024;
+constexpr qint64 LargestFile = 4194304;
 
 QString PathOf(const QString& strModule, const QString& strSubDirectory, const QString& strSuffix)
 {

@@ -18,7 +18,7 @@ constexpr int YesOrNo = 0x2400;
 // Does something to the box once it is open.
 void Then(const std::function<void(LXMessageBox*)>& act)
 {
-    QTimer::singleShot(0, [act] {
+    QTimer::singleShot(0, qApp, [act] {
         auto* const pBox = qobject_cast<LXMessageBox*>(QApplication::activeModalWidget());
         QVERIFY(pBox);
         act(pBox);

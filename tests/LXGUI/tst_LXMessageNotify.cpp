@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(added.at(0).at(0).toString(), QStringLiteral("Saved."));
         QCOMPARE(added.at(0).at(1).toInt(), int(LXMessageNotify::Information));
         QCOMPARE(Panels().size(), 1);
-        QVERIFY(Panels().first()->isVisible());
+        QVERIFY(Panels().constFirst()->isVisible());
     }
 
     void notesStackOverTheLowerRightCorner()
@@ -81,11 +81,11 @@ private Q_SLOTS:
     void notesFollowTheWindowsSize()
     {
         Notify()->AddTextNotification(QStringLiteral("one"));
-        const QPoint gap = m_window->rect().bottomRight() - Panels().first()->geometry().bottomRight();
+        const QPoint gap = m_window->rect().bottomRight() - Panels().constFirst()->geometry().bottomRight();
         m_window->resize(900, 700);
-        QTRY_COMPARE(m_window->rect().bottomRight() - Panels().first()->geometry().bottomRight(), gap);
+        QTRY_COMPARE(m_window->rect().bottomRight() - Panels().constFirst()->geometry().bottomRight(), gap);
         m_window->resize(200, 300);
-        QTRY_VERIFY(m_window->rect().contains(Panels().first()->geometry()));
+        QTRY_VERIFY(m_window->rect().contains(Panels().constFirst()->geometry()));
     }
 
     void notesStayClearOfAStatusBar()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         pBar->setGeometry(0, 470, 600, 30);
         pBar->show();
         Notify()->AddTextNotification(QStringLiteral("one"));
-        QVERIFY(!Panels().first()->geometry().intersects(pBar->geometry()));
+        QVERIFY(!Panels().constFirst()->geometry().intersects(pBar->geometry()));
     }
 
     void theFifthNoteMakesTheOldestLeave()
@@ -138,13 +138,13 @@ private Q_SLOTS:
         QCOMPARE(Notify()->GetVisibleTexts(), QStringList{QStringLiteral("one")});
         QCOMPARE(Notify()->GetLastText(), QStringLiteral("two"));
         QTRY_COMPARE(Panels().size(), 1);
-        QCOMPARE(Panels().first()->geometry().bottom(), lowest.bottom());
+        QCOMPARE(Panels().constFirst()->geometry().bottom(), lowest.bottom());
     }
 
     void twoClicksAreOneFarewell()
     {
         Notify()->AddTextNotification(QStringLiteral("one"));
-        QFrame* const pPanel = Panels().first();
+        QFrame* const pPanel = Panels().constFirst();
         QTest::mouseClick(pPanel, Qt::LeftButton);
         QTest::mouseClick(pPanel, Qt::LeftButton);
         QTRY_VERIFY(Panels().isEmpty());
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QWidget* const pActive = QApplication::activeWindow();
         Notify()->AddTextNotification(QStringLiteral("one"), LXMessageNotify::Error);
         QVERIFY(edit.hasFocus());
-        QTest::mouseClick(Panels().first(), Qt::LeftButton);
+        QTest::mouseClick(Panels().constFirst(), Qt::LeftButton);
         QVERIFY(edit.hasFocus());
         QCOMPARE(QApplication::activeWindow(), pActive);
     }
@@ -210,7 +210,7 @@ private Q_SLOTS:
     void markupIsShownAsItIsWritten()
     {
         Notify()->AddTextNotification(QStringLiteral("<b>x</b>"));
-        const QList<QLabel*> labels = Panels().first()->findChildren<QLabel*>();
+        const QList<QLabel*> labels = Panels().constFirst()->findChildren<QLabel*>();
         const auto isText = [](const QLabel* pLabel) {
             return pLabel->text() == QStringLiteral("<b>x</b>") && pLabel->textFormat() == Qt::PlainText;
         };
@@ -222,7 +222,7 @@ private Q_SLOTS:
         const QString strHuge = QStringLiteral("word ").repeated(20000);
         Notify()->AddTextNotification(strHuge);
         QCOMPARE(Notify()->GetLastText(), strHuge);
-        QVERIFY(m_window->rect().contains(Panels().first()->geometry()));
+        QVERIFY(m_window->rect().contains(Panels().constFirst()->geometry()));
     }
 
     void clearForgetsEverything()

@@ -12,27 +12,31 @@ using LXGUI::Theme;
 
 namespace {
 
-const QString Root = QStringLiteral("./Skin/theme1");
+const QLatin1String Root("./Skin/theme1");
 
-QStringList s_warnings;
+QStringList& Warnings()
+{
+    static QStringList warnings;
+    return warnings;
+}
 
 void CollectWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& strMessage)
 {
     if (type != QtDebugMsg && type != QtInfoMsg) {
-        s_warnings.append(strMessage);
+        Warnings().append(strMessage);
     }
 }
 
 // Warnings that Qt utters while a widget takes a style sheet.
 QStringList WarningsOf(const QString& strStyleSheet)
 {
-    s_warnings.clear();
+    Warnings().clear();
     const QtMessageHandler old = qInstallMessageHandler(CollectWarnings);
     QWidget widget;
     widget.setStyleSheet(strStyleSheet);
     widget.ensurePolished();
     qInstallMessageHandler(old);
-    return s_warnings;
+    return Warnings();
 }
 
 QString TextOf(const QString& strPath)

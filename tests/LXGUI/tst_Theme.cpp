@@ -188,7 +188,8 @@ private Q_SLOTS:
         QCOMPARE(theme.Colour(QStringLiteral("text")), QColor(0xDD, 0xDD, 0xDD));
         QCOMPARE(theme.Colour(QStringLiteral("raised")), QColor(0x31, 0x37, 0x3E));
         QVERIFY(!theme.Colour(QStringLiteral("extra")).isValid());
-        for (const QString& strName : TokenNames()) {
+        const QStringList names = TokenNames();
+        for (const QString& strName : names) {
             QVERIFY2(theme.Colour(strName).isValid(), qPrintable(strName));
         }
     }
