@@ -66,7 +66,7 @@ TickedNodes::TickedNodes(VantaModel::GroupTreeModel* pModel, QObject* parent)
     : QObject(parent)
     , m_pModel(pModel)
 {
-    connect(pModel, &VantaModel::GroupTreeModel::DeviceRemoved, this, &TickedNodes::OnDeviceRemoved);
+    connect(pModel, &VantaModel::GroupTreeModel::TreeUpdated, this, &TickedNodes::OnTreeUpdated);
 }
 
 void TickedNodes::Apply(const DeviceTreePicker::CheckChange& change)
@@ -77,13 +77,13 @@ void TickedNodes::Apply(const DeviceTreePicker::CheckChange& change)
         m_nodes.insert(DeviceTreePicker::NodeOf(*pItem));
 }
 
-void TickedNodes::OnDeviceRemoved()
+void TickedNodes::OnTreeUpdated()
 {
-    m_pModel->EnsureBuilt();
     for (auto it = m_nodes.begin(); it != m_nodes.end();) {
-        if (m_pModel->FindNode(it->iId, it->iKind) == nullptr)
+        if (m_pModel->FindNode(it->iId, it->iKind) == nullptr) {
             it = m_nodes.erase(it);
-        else
+        } else {
             ++it;
+        }
     }
 }

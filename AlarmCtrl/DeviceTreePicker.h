@@ -111,7 +111,7 @@ private:
 };
 
 /// The nodes that are ticked in a tree, by what they stand for, so that nothing dangles when rows go. A node
-/// that leaves the site leaves the set: it would come back unticked.
+/// that leaves the tree leaves the set: it would come back unticked.
 class TickedNodes : public QObject
 {
     Q_OBJECT
@@ -123,7 +123,7 @@ public:
     const QSet<DeviceTreeNode>& Nodes() const { return m_nodes; }
 
 private Q_SLOTS:
-    void OnDeviceRemoved();
+    void OnTreeUpdated();
 
 private:
     VantaModel::GroupTreeModel* m_pModel;

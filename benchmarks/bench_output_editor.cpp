@@ -12,6 +12,7 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <memory>
 
 namespace {
 

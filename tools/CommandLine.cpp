@@ -24,9 +24,10 @@ QString CommandLine::Help() const
 {
     QString strHelp = tr("Usage: acs-scheme <command> [options]") + QLatin1String("\n\n") + tr("Commands:") +
                       QLatin1Char('\n');
-    for (const auto& pCommand : m_commands)
+    for (const auto& pCommand : m_commands) {
         strHelp +=
             QStringLiteral("  %1  %2\n").arg(pCommand->Name().leftJustified(12), pCommand->Description());
+    }
     return strHelp + QLatin1Char('\n') + tr("\"acs-scheme <command> --help\" lists a command's options.") +
            QLatin1Char('\n');
 }

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <random>
 
 namespace {
@@ -172,9 +173,10 @@ void Maker::AddController(int64_t iGroupId, const QString& strPlace, int iContro
         AddChannel(device, VantaLogic::ChannelTypeAlarmInput, 2 * door + 2,
                    QStringLiteral("Contact %1").arg(doorNames.at(door)));
     }
-    for (int door = 0; door < iDoors; ++door)
+    for (int door = 0; door < iDoors; ++door) {
         AddChannel(device, VantaLogic::ChannelTypeAlarmOutput, door + 1,
                    QStringLiteral("Lock %1").arg(doorNames.at(door)));
+    }
     m_site.devices.append(device);
 }
 
@@ -188,21 +190,24 @@ void Maker::AddCommonDevices(int64_t iGroupId, const QString& strBuilding, int i
     DeviceInfo host = NewDevice(VantaLogic::DeviceTypeAlarmHost, iGroupId,
                                 QStringLiteral("Alarm host %1").arg(strBuilding));
     const int inputs = 4 * iFloors;
-    for (int input = 1; input <= inputs; ++input)
+    for (int input = 1; input <= inputs; ++input) {
         AddChannel(host, VantaLogic::ChannelTypeAlarmInput, input,
                    QStringLiteral("Zone %1 %2").arg(TwoDigits(input), PickName(zones)));
+    }
     const int outputs = 2 * iFloors;
-    for (int output = 1; output <= outputs; ++output)
+    for (int output = 1; output <= outputs; ++output) {
         AddChannel(host, VantaLogic::ChannelTypeAlarmOutput, output,
                    QStringLiteral("%1 %2").arg(PickName(sounders), TwoDigits(output)));
+    }
     m_site.devices.append(host);
 
     DeviceInfo recorder =
         NewDevice(s_iRecorder, iGroupId, QStringLiteral("Video recorder %1").arg(strBuilding));
     const int cameras = Between(4, 16);
-    for (int camera = 1; camera <= cameras; ++camera)
+    for (int camera = 1; camera <= cameras; ++camera) {
         AddChannel(recorder, VantaLogic::ChannelTypeVideo, camera,
                    QStringLiteral("Camera %1-%2").arg(strBuilding, TwoDigits(camera)));
+    }
     AddChannel(recorder, VantaLogic::ChannelTypeAlarmOutput, 1,
                QStringLiteral("Recorder relay %1").arg(strBuilding));
     m_site.devices.append(recorder);

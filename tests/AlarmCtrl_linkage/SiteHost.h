@@ -24,10 +24,11 @@ public:
     }
     void SetExpanded(int32_t iNodeKind, int64_t iNodeId, bool bExpanded) override
     {
-        if (bExpanded)
+        if (bExpanded) {
             m_expanded.insert({iNodeKind, iNodeId});
-        else
+        } else {
             m_expanded.remove({iNodeKind, iNodeId});
+        }
     }
 
 private:

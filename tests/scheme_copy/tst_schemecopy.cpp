@@ -43,10 +43,11 @@ AlarmInfoMap CopyStepByStep(AlarmInfoMap map, const QString& strSource, QList<QS
             const auto targetKey = EventSource::SchemeKey(strTarget, type);
             if (!targetKey)
                 continue;
-            if (copies)
+            if (copies) {
                 map.insert(*targetKey, source);
-            else
+            } else {
                 map.remove(*targetKey);
+            }
         }
     }
     return map;
@@ -363,10 +364,11 @@ void TestSchemeCopy::randomCopiesAgreeWithTheRuleStepByStep()
     const auto type = [&pick] { return pick(4) == 0 ? 22 : pick(8); };
     for (int round = 0; round < 2000; ++round) {
         AlarmInfoMap map;
-        for (int entry = pick(60); entry > 0; --entry)
+        for (int entry = pick(60); entry > 0; --entry) {
             map.insert(
                 *EventSource::SchemeKey(QStringLiteral("%1$1$0$%2").arg(pick(4)).arg(pick(30)), type()),
                 pick(3) == 0 ? AlarmInfo() : Scheme(pick(100)));
+        }
         QList<QString> targets;
         for (int target = pick(20); target > 0; --target)
             targets.append(source());
