@@ -158,6 +158,7 @@ void TestPageSchemes::editsSurviveADeviceWithoutInputs()
     QVERIFY(!page.hands.IsSoundShown());
     QVERIFY(page.hands.ToggleMail());
     QVERIFY(page.hands.ClickDevice(Vault));
+    QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.Save());
     QCOMPARE(SchemeText::Edited(host.Kept().schemes),
              (QStringList{Line("100$3$1$103", 2, "sound"), Line("200$1$0$201", Alarm(0), "mail")}));
