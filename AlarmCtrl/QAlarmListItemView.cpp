@@ -118,11 +118,17 @@ void QAlarmListItemView::OnGroupBtnClicked(QAbstractButton* pButton)
 // The entries take no focus, so the view answers the keys for them: it clicks the entry to go to.
 void QAlarmListItemView::keyPressEvent(QKeyEvent* event)
 {
-    QList<QAbstractButton*> shown = m_pGroup->buttons();
-    shown.erase(std::remove_if(shown.begin(), shown.end(), [](auto* pItem) { return pItem->isHidden(); }),
-                shown.end());
-    const int iLast = shown.size() - 1;
-    const int iCurrent = shown.indexOf(m_pGroup->checkedButton());
+    const QAbstractButton* const pCurrent = m_pGroup->checkedButton();
+    const QList<QAbstractButton*> entries = EntriesOnScreen(pCurrent);
+    // A current entry that is hidden is a place to start from, but none to go to.
+    const auto isShown = [this](const QAbstractButton* pEntry) { return pEntry->isVisibleTo(this); };
+    const int iFirst =
+        static_cast<int>(std::find_if(entries.begin(), entries.end(), isShown) - entries.begin());
+    const int iLast =
+        entries.size() - 1 -
+        static_cast<int>(std::find_if(entries.rbegin(), entries.rend(), isShown) - entries.rbegin());
+    const int iCurrent =
+        static_cast<int>(std::find(entries.begin(), entries.end(), pCurrent) - entries.begin());
     const int iPage = std::max(1, height() / m_ui->btnSubControll->minimumHeight() - 1);
     int iTarget = -1;
     switch (event->key()) {
@@ -139,7 +145,7 @@ void QAlarmListItemView::keyPressEvent(QKeyEvent* event)
         iTarget = iCurrent + iPage;
         break;
     case Qt::Key_Home:
-        iTarget = 0;
+        iTarget = iFirst;
         break;
     case Qt::Key_End:
         iTarget = iLast;
@@ -148,12 +154,29 @@ void QAlarmListItemView::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
         return;
     }
-    iTarget = std::clamp(iTarget, 0, std::max(iLast, 0));
-    if (iTarget > iLast || iTarget == iCurrent)
+    if (iFirst > iLast)
         return;
-    QAbstractButton* const pTarget = shown.at(iTarget);
+    iTarget = std::clamp(iTarget, iFirst, iLast);
+    if (iTarget == iCurrent)
+        return;
+    QAbstractButton* const pTarget = entries.at(iTarget);
     m_ui->scrollArea->ensureWidgetVisible(pTarget, 0, 0);
     pTarget->click();
+}
+
+// From top to bottom, as they stand and not as they were added. Hidden entries and those of a folded section
+// are left out; the current one is always there.
+QList<QAbstractButton*> QAlarmListItemView::EntriesOnScreen(const QAbstractButton* pCurrent) const
+{
+    QList<QAbstractButton*> entries;
+    for (const QVBoxLayout* pLayout : {m_pMainLayout, m_pSubLayout}) {
+        for (int i = 0; i < pLayout->count(); ++i) {
+            auto* const pEntry = qobject_cast<QAbstractButton*>(pLayout->itemAt(i)->widget());
+            if (pEntry != nullptr && (pEntry == pCurrent || pEntry->isVisibleTo(this)))
+                entries.append(pEntry);
+        }
+    }
+    return entries;
 }
 
 QAlarmListItem* QAlarmListItemView::FindItem(const std::function<bool(const QAlarmListItem&)>& accept) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <cstdint>
@@ -49,6 +50,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QList<QAbstractButton*> EntriesOnScreen(const QAbstractButton* pCurrent) const;
     QAlarmListItem* FindItem(const std::function<bool(const QAlarmListItem&)>& accept) const;
     QAlarmListItem* AppendItem(QVBoxLayout* pLayout, const QString& strText, int iType);
 
