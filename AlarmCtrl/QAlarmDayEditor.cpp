@@ -6,6 +6,7 @@
 
 #include <QCursor>
 #include <QEvent>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
@@ -222,9 +223,11 @@ int32_t QAlarmDayEditor::SecondsAt(const QMouseEvent& event) const
 
 void QAlarmDayEditor::SetDisplayCursor(bool bErase)
 {
-    const QPixmap picture(CursorFile(bErase));
+    // Read as an image: a pixmap of a file may come from the cache, and a skin may change under us.
+    const QImage picture(CursorFile(bErase));
     if (!picture.isNull()) {
-        m_pDisplay->setCursor(QCursor(picture.copy(0, 0, CursorSize, CursorSize), 0, CursorSize));
+        const QPixmap pointer = QPixmap::fromImage(picture.copy(0, 0, CursorSize, CursorSize));
+        m_pDisplay->setCursor(QCursor(pointer, 0, CursorSize));
     }
 }
 

@@ -1,0 +1,11 @@
+# One step of a drag over the week plan, at the density of an ordinary display and of a 4K one.
+foreach(density 1 2)
+    set(name bench_day_bar)
+    if(density EQUAL 2)
+        set(name bench_day_bar_4k)
+    endif()
+    add_executable(${name} bench_day_bar.cpp)
+    target_compile_definitions(${name} PRIVATE BENCH_DENSITY=${density})
+    target_link_libraries(${name} PRIVATE acs_options AlarmWeekPlan benchmark::benchmark)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/benchmarks)
+endforeach()

@@ -1,0 +1,173 @@
+#include "AlarmCtrl/QAlarmDayDetailEditor.h"
+#include "AlarmCtrl/QAlarmDayEditor.h"
+#include "AlarmCtrl/QAlarmDefenceTimeEditor.h"
+#include "BarMouse.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QObject>
+#include <QSet>
+#include <QTest>
+#include <QWindow>
+
+namespace {
+
+constexpr QRgb Green = 0xFF3AAA24;
+constexpr QRgb Grid = 0xFFDDDDDD;
+
+/// Every control that shows a text, with less room than the text needs.
+QStringList CutTexts(const QWidget& window)
+{
+    QStringList cut;
+    const auto widgets = window.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const bool showsText = qobject_cast<const QLabel*>(widget) != nullptr ||
+                               qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                               qobject_cast<const QAbstractSpinBox*>(widget) != nullptr;
+        if (!showsText || !widget->isVisible()) {
+            continue;
+        }
+        const QSize needed = widget->minimumSizeHint().boundedTo(widget->maximumSize());
+        if (widget->width() < needed.width() || widget->height() < needed.height()) {
+            cut << QStringLiteral("%1 has %2x%3 and needs %4x%5")
+                       .arg(widget->objectName())
+                       .arg(widget->width())
+                       .arg(widget->height())
+                       .arg(needed.width())
+                       .arg(needed.height());
+        }
+        if (!window.rect().contains(QRect(widget->mapTo(&window, QPoint(0, 0)), widget->size()))) {
+            cut << widget->objectName() + QStringLiteral(" sticks out");
+        }
+    }
+    return cut;
+}
+
+} // namespace
+
+/// The week plan on a display of twice the density; main() asks for it before the application starts.
+class tst_WeekPlanScaled : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingIsScaledByTwo();
+    void theDialogShowsAllItsTexts();
+    void theDialogGrowsWithAFontOfTwiceTheSize();
+    void theDialogTakesLongerTexts();
+    void theBarsAreDrawnInDevicePixels();
+    void aPreviewOnALockedBarIsAsCrisp();
+};
+
+void tst_WeekPlanScaled::everythingIsScaledByTwo()
+{
+    QAlarmDefenceTimeEditor editor;
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    QCOMPARE(editor.devicePixelRatioF(), 2.0);
+    QCOMPARE(editor.grab().size(), editor.size() * 2);
+}
+
+void tst_WeekPlanScaled::theDialogShowsAllItsTexts()
+{
+    QAlarmDayDetailEditor dialog;
+    dialog.SetTitle(QStringLiteral("Time Editor"));
+    dialog.SetRegions({{0, 86399}});
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QCOMPARE(dialog.devicePixelRatioF(), 2.0);
+    QCOMPARE(CutTexts(dialog), QStringList());
+}
+
+void tst_WeekPlanScaled::theDialogGrowsWithAFontOfTwiceTheSize()
+{
+    QAlarmDayDetailEditor dialog;
+    QFont large = dialog.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    dialog.setFont(large);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QCOMPARE(CutTexts(dialog), QStringList());
+}
+
+void tst_WeekPlanScaled::theDialogTakesLongerTexts()
+{
+    QAlarmDayDetailEditor dialog;
+    const auto boxes = dialog.GetCentralWidget()->findChildren<QAbstractButton*>();
+    for (QAbstractButton* box : boxes) {
+        box->setText(box->text() + QStringLiteral(" translated"));
+    }
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QCOMPARE(CutTexts(dialog), QStringList());
+}
+
+void tst_WeekPlanScaled::theBarsAreDrawnInDevicePixels()
+{
+    QAlarmDefenceTimeEditor editor;
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    auto* bar = editor.findChild<QAlarmDayEditor*>(QStringLiteral("editor2"));
+    bar->SetDefenceTime({{8 * 3600, 12 * 3600}});
+    const BarMouse mouse(bar);
+    mouse.Display()->setAutoFillBackground(true);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::red);
+    mouse.Display()->setPalette(palette);
+    const QImage image = mouse.Display()->grab().toImage();
+    const int width = mouse.Display()->width() * 2;
+    QCOMPARE(image.width(), width);
+    // Columns of the device, from the contract's arithmetic on the device's width.
+    const int left = static_cast<int>(qint64{8 * 3600} * width / 86399);
+    const int right = static_cast<int>(qint64{12 * 3600} * width / 86399);
+    const QSet<int> lines = [width] {
+        QSet<int> columns;
+        for (int hour = 0; hour <= 24; ++hour) {
+            const int x = qMin(hour * width / 24, width - 2);
+            columns << x << x + 1;
+        }
+        return columns;
+    }();
+    for (int x = 0; x < width; ++x) {
+        const QRgb expected = lines.contains(x)        ? Grid
+                              : x >= left && x < right ? Green
+                                                       : QColor(Qt::red).rgba();
+        for (int y = 0; y < image.height(); ++y) {
+            QVERIFY2(image.pixel(x, y) == expected, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+        }
+    }
+}
+
+void tst_WeekPlanScaled::aPreviewOnALockedBarIsAsCrisp()
+{
+    QAlarmDefenceTimeEditor editor;
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    editor.findChild<QAbstractButton*>(QStringLiteral("btnAll"))->click();
+    const BarMouse mouse(editor.findChild<QAlarmDayEditor*>(QStringLiteral("editor2")));
+    mouse.Hover(100);
+    mouse.Press(100);
+    mouse.Drag(199);
+    const auto picture = [&editor](int day) {
+        auto* bar = editor.findChild<QAlarmDayEditor*>(QStringLiteral("editor%1").arg(day));
+        return BarMouse(bar).Display()->grab().toImage();
+    };
+    const QImage own = picture(2);
+    QVERIFY(own.pixel(300, 5) == Green);
+    for (int day = 0; day < 7; ++day) {
+        QCOMPARE(picture(day), own);
+    }
+    mouse.Release(199);
+}
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_SCALE_FACTOR", "2");
+    QApplication application(argc, argv);
+    tst_WeekPlanScaled test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_week_plan_scaled.moc"
