@@ -58,7 +58,8 @@ public:
     void UpdateSelectedState(QStandardItem* pItem, bool bChecked);
 
     /// Append the ticked (or not fully ticked) items of the subtree that begins at the index, itself
-    /// included, in the order of the tree. Partly ticked items count as not ticked.
+    /// included, in the order of the tree. Partly ticked items count as not ticked. What the search hides
+    /// stays out, as it stays out of a cascade.
     void GetCheckedItem(const QModelIndex& index, QVector<QStandardItem*>& out) const;
     void GetUnCheckedItem(const QModelIndex& index, QVector<QStandardItem*>& out) const;
     /// The same for the whole tree, rows that the search hides included.
@@ -72,6 +73,10 @@ Q_SIGNALS:
     void SignalSearchChanged();
     /// Once for every device of this tree that was really removed from the site, after its rows are gone.
     void SignalRemoveDevice(int64_t iDevUniqueId);
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     class Private;
