@@ -2,12 +2,19 @@
 
 #include "ui_QAlarmListItem.h"
 
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+#include <algorithm>
+
 QAlarmListItem::QAlarmListItem(QWidget* parent)
     : QPushButton(parent)
     , m_ui(std::make_unique<Ui::QAlarmListItem>())
 {
     m_ui->setupUi(this);
     m_ui->lblPix->hide();
+    // A long text is cut at the mark instead of making every entry of the list wider than the list.
+    setSizePolicy(QSizePolicy::Ignored, sizePolicy().verticalPolicy());
 }
 
 QAlarmListItem::~QAlarmListItem() = default;
@@ -31,4 +38,30 @@ void QAlarmListItem::SetMark(bool bShow)
 bool QAlarmListItem::HasMark() const
 {
     return !m_ui->lblPix->isHidden();
+}
+
+QString QAlarmListItem::ElidedText() const
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    const int iMarkLeft = m_ui->horizontalLayout->contentsRect().right() - m_ui->lblPix->maximumWidth();
+    const int iWidth = std::min(contents.right(), iMarkLeft) - contents.left();
+    return fontMetrics().elidedText(text(), Qt::ElideRight, std::max(iWidth, 0), Qt::TextShowMnemonic);
+}
+
+void QAlarmListItem::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text = ElidedText();
+    painter.drawControl(QStyle::CE_PushButton, option);
+}
+
+void QAlarmListItem::resizeEvent(QResizeEvent* event)
+{
+    QPushButton::resizeEvent(event);
+    setToolTip(ElidedText() == text() ? QString() : text());
 }

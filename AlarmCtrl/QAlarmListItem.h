@@ -25,7 +25,13 @@ public:
     void SetMark(bool bShow);
     bool HasMark() const;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    QString ElidedText() const;
+
     std::unique_ptr<Ui::QAlarmListItem> m_ui;
     int32_t m_iType = -1;
 };

@@ -29,9 +29,9 @@ constexpr EventType s_eventTypes[] = {
     {EventSource::PerDeviceAlarmType, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Controller Tampered")},
     {105, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Card Reader Tampered")},
     {106, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Fire Alarm Input")},
-    {107, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Emergency Button Pressed")},
+    {107, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Emergency Button")},
     {108, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Card on Block List")},
-    {109, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Too Many Failed Attempts")},
+    {109, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Too Many Attempts")},
     {110, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Anti-Passback Violation")},
     {111, Category::Alarm, QT_TRANSLATE_NOOP("QCommon", "Interlock Violation")},
 
@@ -41,11 +41,11 @@ constexpr EventType s_eventTypes[] = {
     {204, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "No Access at This Door")},
     {205, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Outside Access Hours")},
     {206, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Wrong PIN")},
-    {207, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Fingerprint Not Recognised")},
-    {208, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Face Not Recognised")},
+    {207, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Unknown Fingerprint")},
+    {208, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Unknown Face")},
     {209, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "First-Card Rule Not Met")},
     {210, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Second Person Missing")},
-    {211, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Door Not Closed Properly")},
+    {211, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Door Not Closed")},
     {212, Category::Abnormal, QT_TRANSLATE_NOOP("QCommon", "Door Lock Fault")},
 
     {301, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Access by Card")},
@@ -57,9 +57,9 @@ constexpr EventType s_eventTypes[] = {
     {307, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Exit Button Pressed")},
     {308, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Door Opened")},
     {309, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Door Closed")},
-    {310, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Door Opened by Operator")},
-    {311, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Door Held Open by Schedule")},
-    {312, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Door Locked by Schedule")},
+    {310, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Opened by Operator")},
+    {311, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Opened by Schedule")},
+    {312, Category::Normal, QT_TRANSLATE_NOOP("QCommon", "Locked by Schedule")},
 };
 
 } // namespace
