@@ -8,6 +8,8 @@
 #include "plugin/host_services/HostServices.h"
 #include "ui_QAlarmCopyToPopup.h"
 
+#include <QPointer>
+
 QAlarmCopyToPopup::QAlarmCopyToPopup(int iMode, QWidget* parent)
     : LXGUI::LXCustomDialog(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, parent, true)
     , m_ui(std::make_unique<Ui::QAlarmCopyToPopup>())
@@ -40,6 +42,7 @@ void QAlarmCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool bCh
 
 void QAlarmCopyToPopup::OnOk()
 {
+    const QPointer<QAlarmCopyToPopup> guard(this); // whoever is told may close the page and this with it
     const CopyMode* const pMode = CopyMode::Find(AlarmCopyModes(), m_iMode);
     const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
     if (pMode != nullptr && pManager != nullptr) {
@@ -47,7 +50,9 @@ void QAlarmCopyToPopup::OnOk()
         if (!listKeys.isEmpty())
             Q_EMIT SignalCopyTo(listKeys);
     }
-    done(Accepted);
+    if (guard) {
+        done(Accepted);
+    }
 }
 
 void QAlarmCopyToPopup::OnCancel()

@@ -2,12 +2,14 @@
 // insertions into a map in the same run.
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSourceKey.h"
+#include "AlarmCtrl/QAlarmCopyToPopup.h"
 #include "AlarmCtrl/QAlarmOutEditor.h"
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "tests/AlarmCtrl_linkage/SiteHost.h"
 
 #include <QApplication>
+#include <QTreeView>
 
 #include <benchmark/benchmark.h>
 
@@ -121,6 +123,17 @@ void ShowAllAndNothingInTurn(benchmark::State& state)
         desk.editor->SetAlarmOutInfo(links[next++ % 2]);
 }
 
+void ShowAllAndNothingInAnUnfoldedTree(benchmark::State& state)
+{
+    const Editor desk;
+    desk.editor->findChild<QTreeView*>()->expandAll();
+    const QList<AlarmLinkAlarmOut> links[] = {Links(1, s_iOutputsPerController), {}};
+    std::size_t next = 0;
+    for (auto _ : state) {
+        desk.editor->SetAlarmOutInfo(links[next++ % 2]);
+    }
+}
+
 void ReadAll(benchmark::State& state)
 {
     const Editor desk;
@@ -150,25 +163,44 @@ void TickAndUntickEverythingInTheEditor(benchmark::State& state)
         desk.hand->Tick(s_iSite, VantaModel::NodeKindGroup, tick = !tick);
 }
 
-void TickAndUntickEverythingInThePopup(benchmark::State& state)
+template <typename Popup>
+void TickAndUntickEverything(benchmark::State& state, int iMode)
 {
     Host();
-    ACSEventCopyToPopup popup(ACSCopy::Door);
+    Popup popup(iMode);
     popup.show();
     const TreeHand hand(popup);
     bool tick = false;
-    for (auto _ : state)
+    for (auto _ : state) {
         hand.Tick(s_iSite, VantaModel::NodeKindGroup, tick = !tick);
+    }
+    QVector<QStandardItem*> rows;
+    hand.Tree()->GetAllCheckedItem(rows);
+    hand.Tree()->GetAllUnCheckedItem(rows);
+    state.counters["rows"] = rows.size();
+}
+
+void TickAndUntickEveryDoorInThePopup(benchmark::State& state)
+{
+    TickAndUntickEverything<ACSEventCopyToPopup>(state, ACSCopy::Door);
+}
+
+// A mode without a table row offers every door and every other channel.
+void TickAndUntickEveryChannelInThePopup(benchmark::State& state)
+{
+    TickAndUntickEverything<QAlarmCopyToPopup>(state, 0);
 }
 
 BENCHMARK(WalkEveryRow)->Unit(benchmark::kMillisecond);
 BENCHMARK(ShowTheSameScheme)->Unit(benchmark::kMillisecond);
 BENCHMARK(ShowSchemesInTurn)->Unit(benchmark::kMillisecond);
 BENCHMARK(ShowAllAndNothingInTurn)->Unit(benchmark::kMillisecond);
+BENCHMARK(ShowAllAndNothingInAnUnfoldedTree)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(InsertEveryKey)->Unit(benchmark::kMillisecond);
 BENCHMARK(TickAndUntickEverythingInTheEditor)->Unit(benchmark::kMillisecond);
-BENCHMARK(TickAndUntickEverythingInThePopup)->Unit(benchmark::kMillisecond);
+BENCHMARK(TickAndUntickEveryDoorInThePopup)->Unit(benchmark::kMillisecond);
+BENCHMARK(TickAndUntickEveryChannelInThePopup)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

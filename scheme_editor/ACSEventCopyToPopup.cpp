@@ -8,6 +8,8 @@
 #include "scheme_editor/ACSCopyModes.h"
 #include "ui_ACSEventCopyToPopup.h"
 
+#include <QPointer>
+
 ACSEventCopyToPopup::ACSEventCopyToPopup(int iMode, QWidget* parent)
     : LXGUI::LXCustomDialog(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, parent, true)
     , m_ui(std::make_unique<Ui::ACSEventCopyToPopup>())
@@ -43,6 +45,7 @@ void ACSEventCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool b
 
 void ACSEventCopyToPopup::OnOk()
 {
+    const QPointer<ACSEventCopyToPopup> guard(this); // whoever is told may close the page and this with it
     const CopyMode* const pMode = CopyMode::Find(ACSCopy::Modes(), m_iMode);
     const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
     if (pMode != nullptr && pManager != nullptr) {
@@ -50,7 +53,9 @@ void ACSEventCopyToPopup::OnOk()
         if (!listKeys.isEmpty())
             Q_EMIT SignalCopyTo(listKeys);
     }
-    done(Accepted);
+    if (guard) {
+        done(Accepted);
+    }
 }
 
 void ACSEventCopyToPopup::OnCancel()

@@ -334,9 +334,9 @@ void TestAlarmCopyToPopup::destroyingThePopupWhileItEmitsIsSafe()
     const QPointer<QAlarmCopyToPopup> popup(new QAlarmCopyToPopup(4));
     const TreeHand hand(*popup);
     QVERIFY(hand.TickDevice(DeviceOfType(15)));
-    connect(popup.data(), &QAlarmCopyToPopup::SignalCopyTo, this, [&popup] { popup->deleteLater(); });
+    connect(popup.data(), &QAlarmCopyToPopup::SignalCopyTo, this, [&popup] { delete popup.data(); });
+    popup->show();
     popup->GetButton(QDialogButtonBox::Ok)->click();
-    QCoreApplication::sendPostedEvents(popup.data(), QEvent::DeferredDelete);
     QVERIFY(popup.isNull());
 }
 
