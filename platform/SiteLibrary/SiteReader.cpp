@@ -156,7 +156,7 @@ public:
     bool Double(double) { return Fail(Unexpected()); }
     bool Int(int i) { return Int64(i); }
     bool Uint(unsigned i) { return Int64(i); }
-    bool Uint64(uint64_t) { return Fail(Unexpected()); }
+    bool Uint64(uint64_t i);
     bool Int64(int64_t i);
     bool Bool(bool b);
     bool String(const char* text, rapidjson::SizeType length, bool);
@@ -291,6 +291,12 @@ bool SiteHandler::Int64(int64_t i)
     return true;
 }
 
+bool SiteHandler::Uint64(uint64_t i)
+{
+    constexpr auto iMax = static_cast<uint64_t>(std::numeric_limits<int64_t>::max());
+    return i <= iMax ? Int64(static_cast<int64_t>(i)) : Fail(Unexpected());
+}
+
 void SiteHandler::StoreNumber(int32_t i)
 {
     if (Top().scope == Scope::Device)
@@ -320,7 +326,7 @@ bool SiteHandler::String(const char* text, rapidjson::SizeType length, bool)
     if (!pField || pField->kind != Kind::Text)
         return Fail(Unexpected());
     const QByteArray bytes(text, static_cast<int>(length));
-    const QString strName = QString::fromUtf8(bytes);
+    const QString strName = QString::fromUtf8(bytes.constData(), bytes.size()); // NULs included
     // A lone half of a surrogate pair can be spelled as an escape; it does not survive the conversion.
     const QString strProblem = strName.toUtf8() == bytes ? SiteRules::NameProblem(strName)
                                                          : SiteText::tr("the name is not valid Unicode");
@@ -521,7 +527,13 @@ bool ReadSiteText(const QByteArray& text, Site& site, SiteTextError& error)
     constexpr unsigned flags = rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag;
     const rapidjson::ParseResult result = reader.Parse<flags>(stream, handler);
     if (!handler.HasFailed() && result.IsError()) {
-        error = {LineOf(body, result.Offset()), SyntaxReason(result.Code())};
+        // The reader reports a raw control character in a text as a wrong escape.
+        const bool bControl = result.Offset() < static_cast<size_t>(body.size()) &&
+                              static_cast<unsigned char>(body[static_cast<int>(result.Offset())]) < 0x20;
+        const bool bWrongEscape = result.Code() == rapidjson::kParseErrorStringEscapeInvalid;
+        error = {LineOf(body, result.Offset()),
+                 SyntaxReason(bControl && bWrongEscape ? rapidjson::kParseErrorStringInvalidEncoding
+                                                       : result.Code())};
         return false;
     }
     // The reader takes a NUL for the end of the text.
