@@ -38,6 +38,9 @@ void PluginLoader::Load(const QStringList& directories, const LXPluginAPI::Manag
 {
     std::vector<std::unique_ptr<Plugin>> found;
     for (const QString& strDirectory : directories) {
+        if (strDirectory.isEmpty()) {
+            continue; // would be read as the working directory
+        }
         const QFileInfoList files =
             QDir(strDirectory).entryInfoList(QDir::Files, QDir::Name | QDir::LocaleAware);
         for (const QFileInfo& file : files) {

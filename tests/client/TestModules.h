@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QVariant>
 
 /// The modules built for these tests, and what they wrote down about their life.
 namespace TestModules {

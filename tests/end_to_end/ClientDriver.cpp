@@ -1,0 +1,207 @@
+#include "ClientDriver.h"
+
+#include "client/HomePage.h"
+#include "client/MainWindow.h"
+#include "client/PluginTile.h"
+#include "platform/LXGUI/LXMessageNotify.h"
+#include "platform/LXGUI/LXSwitchButton.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QScrollArea>
+#include <QTreeView>
+#include <QtTest>
+
+namespace {
+
+constexpr int NodeIdRole = 1057;
+constexpr int NodeKindRole = 1058;
+
+} // namespace
+
+ClientDriver::ClientDriver(const QString& strDataDirectory, UserRole role)
+{
+    m_options.strDataDirectory = strDataDirectory;
+    m_options.role = role;
+    m_options.strLanguage = QStringLiteral("en");
+    qApp->installEventFilter(this);
+}
+
+ClientDriver::~ClientDriver()
+{
+    End();
+}
+
+bool ClientDriver::Start()
+{
+    // The module and the skin lie where the program lies.
+    const QString strProgramDirectory =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../bin"));
+    m_client = std::make_unique<ClientApplication>(m_options, strProgramDirectory);
+    return m_client->Start() && QTest::qWaitForWindowExposed(m_client->Window());
+}
+
+bool ClientDriver::OpenByTile()
+{
+    for (PluginTile* pTile : m_client->Window()->Home()->Tiles()) {
+        if (pTile->Key() == QLatin1String("ACSEventConfigUI")) {
+            QTest::mouseClick(pTile, Qt::LeftButton);
+        }
+    }
+    return Page() != nullptr && Page()->isVisible();
+}
+
+void ClientDriver::End()
+{
+    m_client.reset();
+}
+
+bool ClientDriver::ClickNode(qint64 iId, int iKind)
+{
+    QTreeView* pTree = Tree();
+    const QModelIndex index =
+        pTree == nullptr ? QModelIndex() : Find(*pTree->model(), QModelIndex(), iId, iKind);
+    if (!index.isValid()) {
+        return false;
+    }
+    QList<QModelIndex> folded;
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+        if (!pTree->isExpanded(above)) {
+            folded.prepend(above);
+        }
+    }
+    // Unfolding as a person does: a click on the row and the right arrow key.
+    for (const QModelIndex& above : qAsConst(folded)) {
+        pTree->scrollTo(above);
+        QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          pTree->visualRect(above).center());
+        QTest::keyClick(pTree, Qt::Key_Right);
+        if (!pTree->isExpanded(above)) {
+            return false;
+        }
+    }
+    pTree->scrollTo(index);
+    const QRect row = pTree->visualRect(index);
+    if (row.isEmpty() || !pTree->viewport()->rect().contains(row.center())) {
+        return false;
+    }
+    QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    return true;
+}
+
+bool ClientDriver::ClickEvent(const QString& strName)
+{
+    QAbstractButton* pItem = EventItem(strName);
+    if (pItem == nullptr || !pItem->isEnabled()) {
+        return false;
+    }
+    for (QWidget* pParent = pItem->parentWidget(); pParent != nullptr; pParent = pParent->parentWidget()) {
+        if (auto* pArea = qobject_cast<QScrollArea*>(pParent)) {
+            pArea->ensureWidgetVisible(pItem);
+            break;
+        }
+    }
+    QTest::mouseClick(pItem, Qt::LeftButton);
+    return pItem->isChecked();
+}
+
+bool ClientDriver::ClickButton(const char* szName)
+{
+    auto* pButton = Page()->findChild<QAbstractButton*>(QLatin1String(szName));
+    if (pButton == nullptr || !pButton->isVisible() || !pButton->isEnabled()) {
+        return false;
+    }
+    QTest::mouseClick(pButton, Qt::LeftButton);
+    return true;
+}
+
+bool ClientDriver::IsSwitchedOn(const char* szName) const
+{
+    const auto* pSwitch = Page()->findChild<LXGUI::LXSwitchButton*>(QLatin1String(szName));
+    return pSwitch != nullptr && pSwitch->isToggled();
+}
+
+bool ClientDriver::HasMark(const QString& strEvent) const
+{
+    const QAbstractButton* pItem = EventItem(strEvent);
+    const auto* pMark = pItem == nullptr ? nullptr : pItem->findChild<QLabel*>(QStringLiteral("lblPix"));
+    return pMark != nullptr && pMark->isVisible();
+}
+
+QWidget* ClientDriver::Page() const
+{
+    return m_client->Window()->findChild<QWidget*>(QStringLiteral("ACSEventSchemeEditor"));
+}
+
+QString ClientDriver::StatusText() const
+{
+    return m_client->Window()->StatusText();
+}
+
+QString ClientDriver::LastNote()
+{
+    return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText();
+}
+
+QString ClientDriver::DatabasePath() const
+{
+    return QDir(m_options.strDataDirectory).filePath(QStringLiteral("Database/AlarmScheme.db"));
+}
+
+void ClientDriver::AnswerDialogs(std::initializer_list<std::function<void(QWidget*)>> answers)
+{
+    m_iAnswered = 0;
+    m_answers = answers;
+}
+
+bool ClientDriver::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* pDialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
+    if (pDialog != nullptr && pDialog->isModal() && !m_answers.isEmpty()) {
+        // Once the dialog runs its own event loop.
+        const std::function<void(QWidget*)> answer = m_answers.takeFirst();
+        QMetaObject::invokeMethod(
+            pDialog,
+            [this, pDialog, answer] {
+                ++m_iAnswered;
+                answer(pDialog);
+            },
+            Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QTreeView* ClientDriver::Tree() const
+{
+    return Page()->findChild<QTreeView*>(QStringLiteral("treeDevices"));
+}
+
+QAbstractButton* ClientDriver::EventItem(const QString& strName) const
+{
+    const QList<QAbstractButton*> buttons = Page()->findChildren<QAbstractButton*>();
+    for (QAbstractButton* pButton : buttons) {
+        if (pButton->inherits("QAlarmListItem") && pButton->text() == strName && pButton->isVisible()) {
+            return pButton;
+        }
+    }
+    return nullptr;
+}
+
+QModelIndex ClientDriver::Find(const QAbstractItemModel& model, const QModelIndex& parent, qint64 iId,
+                               int iKind)
+{
+    for (int i = 0; i < model.rowCount(parent); ++i) {
+        const QModelIndex index = model.index(i, 0, parent);
+        if (index.data(NodeIdRole).toLongLong() == iId && index.data(NodeKindRole).toInt() == iKind) {
+            return index;
+        }
+        const QModelIndex below = Find(model, index, iId, iKind);
+        if (below.isValid()) {
+            return below;
+        }
+    }
+    return {};
+}
