@@ -27,7 +27,7 @@
 namespace {
 
 constexpr int SmallestFont = 9; // points
-constexpr int LargestFont = 10;
+constexpr int LargestFont = 9;
 
 // The system's own font, but never outside the sizes that the forms are drawn for.
 QFont ClientFont()

@@ -143,15 +143,16 @@ void TestDoorScheme::aDoorsSchemeIsSwitchedOnSavedAndFoundAgain()
     QCOMPARE(file.Flags(strSource, m_iType), QStringLiteral("1|1|1"));
     QCOMPARE(file.Rows(QStringLiteral("select count(*) from AlarmBaseInfo where bOpen = 1")),
              QStringList{QStringLiteral("1")});
-    // A fresh scheme is armed all day on all seven days.
-    QCOMPARE(
-        file.Rows(QStringLiteral("select t.Day, t.\"Begin\", t.\"End\" from AlarmDefenceTimeInfo t join "
-                                 "AlarmUniqueID u on u.AlarmUniqueID = t.AlarmUniqueID "
-                                 "where u.strEventSource = '%1' and u.AlarmType = %2 order by t.Day")
-                      .arg(strSource, QString::number(m_iType))),
-        (QStringList{QStringLiteral("0|0|86399"), QStringLiteral("1|0|86399"), QStringLiteral("2|0|86399"),
-                     QStringLiteral("3|0|86399"), QStringLiteral("4|0|86399"), QStringLiteral("5|0|86399"),
-                     QStringLiteral("6|0|86399")}));
+    // A fresh scheme is armed all day on all seven days; the file counts them from Sunday, 1, to Saturday, 7.
+    QStringList week;
+    for (int iDay = 1; iDay <= 7; ++iDay) {
+        week.append(QStringLiteral("%1|0|86399").arg(iDay));
+    }
+    QCOMPARE(file.Rows(QStringLiteral("select t.Day, t.\"Begin\", t.\"End\" from AlarmDefenceTimeInfo t join "
+                                      "AlarmUniqueID u on u.AlarmUniqueID = t.AlarmUniqueID "
+                                      "where u.strEventSource = '%1' and u.AlarmType = %2 order by t.Day")
+                           .arg(strSource, QString::number(m_iType))),
+             week);
 
     StartOnPage();
     ChooseDoorAndEvent();
