@@ -38,6 +38,8 @@ QAlarmDayDetailEditor::QAlarmDayDetailEditor(QWidget* parent)
 {
     GetCentralWidget()->setObjectName(QStringLiteral("QAlarmDayDetailEditor"));
     m_pUi->setupUi(GetCentralWidget());
+    // A small screen would otherwise squeeze the rows until their times are cut.
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
     m_days = {m_pUi->chkSunday,   m_pUi->chkMonday, m_pUi->chkTuesday, m_pUi->chkWednesday,
               m_pUi->chkThursday, m_pUi->chkFriday, m_pUi->chkSaturday};
     connect(this, &LXCustomDialog::SignalOkButtonClicked, this, &QAlarmDayDetailEditor::OnBtnOkClicked);
@@ -61,7 +63,7 @@ void QAlarmDayDetailEditor::SetRegions(const AlarmDefenceTime_t& regions)
     const auto edits = findChildren<QTimeEdit*>();
     for (QTimeEdit* pEdit : edits) {
         const QString strName = pEdit->objectName();
-        const int iRegion = strName.right(1).toInt() - 1;
+        const int iRegion = strName.rightRef(1).toInt() - 1;
         if (iRegion < 0 || iRegion >= regions.size()) {
             continue;
         }

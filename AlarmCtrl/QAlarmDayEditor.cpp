@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QScopeGuard>
+#include <QStyle>
 #include <QToolTip>
 
 namespace {
@@ -129,6 +130,11 @@ bool QAlarmDayEditor::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     }
     switch (event->type()) {
+    case QEvent::Polish:
+        // Taking the event keeps the display from asking its style for a background, so this does it instead.
+        m_pDisplay->style()->polish(m_pDisplay);
+        m_pDisplay->setAttribute(Qt::WA_WState_Polished);
+        break;
     case QEvent::Paint:
         PaintDisplay();
         break;

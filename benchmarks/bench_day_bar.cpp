@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QTest>
 
 #include <benchmark/benchmark.h>
 
@@ -25,6 +26,18 @@ AlarmDefenceTime_t FiveRegions()
     return {{3600, 7200}, {10800, 14400}, {18000, 21600}, {25200, 28800}, {32400, 36000}};
 }
 
+/// Proof that a step paints what it should.
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int64_t count = 0;
+};
+
 void Send(QWidget* display, QEvent::Type type, int x, Qt::MouseButton button, Qt::MouseButtons held)
 {
     QMouseEvent event(type, QPointF(x, 5), button, held, Qt::NoModifier);
@@ -43,7 +56,10 @@ void MoveStep(benchmark::State& state)
         editor.findChild<QPushButton*>(QStringLiteral("btnAll"))->click();
     }
     editor.show();
-    QCoreApplication::sendPostedEvents();
+    if (!QTest::qWaitForWindowExposed(&editor)) {
+        state.SkipWithError("the window was not shown");
+        return;
+    }
     const auto flush = [&editor] { QCoreApplication::sendPostedEvents(&editor, QEvent::UpdateRequest); };
     flush();
 
@@ -52,12 +68,21 @@ void MoveStep(benchmark::State& state)
     const int width = pDisplay->width();
     Send(pDisplay, QEvent::MouseMove, width - 1, Qt::NoButton, Qt::NoButton);
     Send(pDisplay, QEvent::MouseButtonPress, width - 1, Qt::LeftButton, Qt::LeftButton);
+    flush();
+    PaintCounter paints;
+    for (int day = 0; day < DefenceTime::DayCount; ++day) {
+        editor.findChild<QWidget*>(QStringLiteral("editor%1").arg(day))
+            ->findChild<QWidget*>(QStringLiteral("wndDisplay"))
+            ->installEventFilter(&paints);
+    }
     int x = 0;
     for (auto _ : state) {
         x = (x + 7) % width;
         Send(pDisplay, QEvent::MouseMove, x, Qt::NoButton, Qt::LeftButton);
         flush();
     }
+    state.counters["painted"] =
+        benchmark::Counter(static_cast<double>(paints.count), benchmark::Counter::kAvgIterations);
     Send(pDisplay, QEvent::MouseButtonRelease, x, Qt::LeftButton, Qt::NoButton);
 }
 BENCHMARK(MoveStep)->ArgName("bars")->Arg(1)->Arg(7)->Unit(benchmark::kMicrosecond);

@@ -4,6 +4,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <limits>
+
 namespace {
 
 constexpr int Hour = 3600;

@@ -12,11 +12,15 @@
 #include <QMetaMethod>
 #include <QObject>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
+
+#include <functional>
+#include <limits>
 
 namespace {
 
@@ -171,6 +175,7 @@ private Q_SLOTS:
     void theDragIsPreviewedWhileItLasts();
     void anEraseIsPreviewedAsAHoleToTheGround();
     void regionsAndGridAreDrawnOverTheStylesBackground();
+    void theApplicationsStyleReachesTheDisplay();
     void theGroundIsWhateverTheParentShows();
     void everyEventOfTheDisplayIsHandled();
     void eventsOfOthersPass();
@@ -556,6 +561,22 @@ void tst_DayEditor::regionsAndGridAreDrawnOverTheStylesBackground()
     QCOMPARE(image.pixel(50, 12), qRgb(0x1A, 0x1D, 0x20));
     QCOMPARE(image.pixel(205, 12), Green);
     QCOMPARE(image.pixel(60, 12), Grid);
+}
+
+void tst_DayEditor::theApplicationsStyleReachesTheDisplay()
+{
+    // The display takes no event, not even the one by which a widget first meets its style.
+    const auto restore = qScopeGuard([] { qApp->setStyleSheet(QString()); });
+    qApp->setStyleSheet(QStringLiteral("#wndDisplay { background-color: #1A1D20; }"));
+    QWidget page;
+    page.setStyleSheet(QStringLiteral("QPushButton { border: none; }"));
+    auto* bar = new Bar(&page);
+    page.resize(bar->size());
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QCOMPARE(page.grab().toImage().pixel(50, 12), qRgb(0x1A, 0x1D, 0x20));
+    qApp->setStyleSheet(QStringLiteral("#wndDisplay { background-color: #F0F1F2; }"));
+    QCOMPARE(page.grab().toImage().pixel(50, 12), qRgb(0xF0, 0xF1, 0xF2));
 }
 
 void tst_DayEditor::theGroundIsWhateverTheParentShows()

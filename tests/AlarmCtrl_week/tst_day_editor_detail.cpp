@@ -162,7 +162,8 @@ void tst_DayEditorDetail::acceptingWithOtherDaysTellsThem()
 {
     QString ownWhenTold;
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
-    connect(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers, this,
+    const QObject context;
+    connect(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers, &context,
             [&] { ownWhenTold = Regions(*m_bar); });
     Open([](QAlarmDayDetailEditor& dialog) {
         TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));

@@ -4,8 +4,8 @@
 #include "BarMouse.h"
 
 #include <QGridLayout>
+#include <QHash>
 #include <QLabel>
-#include <QMap>
 #include <QMetaMethod>
 #include <QObject>
 #include <QPushButton>
@@ -14,7 +14,10 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <functional>
+#include <limits>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -347,7 +350,7 @@ void tst_WeekPlanEditor::lockedDaysFollowEveryMove()
             paints[watched] += event->type() == QEvent::Paint ? 1 : 0;
             return false;
         }
-        QMap<QObject*, int> paints;
+        QHash<QObject*, int> paints;
     } counter;
 
     LockDays({1, 3});
@@ -439,10 +442,9 @@ void tst_WeekPlanEditor::theFirstFullDayInMapOrderShowsTheTip()
     week.fill(Regions(6));
     m_editor->SetDefenceTime(week.data());
     LockDays({0, 2, 5, 6});
-    QMap<QAlarmDayEditor*, std::shared_ptr<QSignalSpy>> spies;
+    std::vector<std::unique_ptr<QSignalSpy>> tips;
     for (int day = 0; day < 7; ++day) {
-        spies.insert(Bar(day),
-                     std::make_shared<QSignalSpy>(Bar(day), &QAlarmDayEditor::SignalInternalShowTip));
+        tips.push_back(std::make_unique<QSignalSpy>(Bar(day), &QAlarmDayEditor::SignalInternalShowTip));
     }
     Drag(5, 20 * Hour, 21 * Hour);
     // The map is ordered by the bars' addresses.
@@ -451,7 +453,7 @@ void tst_WeekPlanEditor::theFirstFullDayInMapOrderShowsTheTip()
         first = std::less<>()(Bar(day), first) ? Bar(day) : first;
     }
     for (int day = 0; day < 7; ++day) {
-        QCOMPARE(spies.value(Bar(day))->count(), Bar(day) == first ? 1 : 0);
+        QCOMPARE(tips.at(static_cast<size_t>(day))->count(), Bar(day) == first ? 1 : 0);
     }
     QCOMPARE(Text(Read()), Text(week));
 }

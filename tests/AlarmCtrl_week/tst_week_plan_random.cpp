@@ -68,7 +68,7 @@ void tst_WeekPlanRandom::lockedDaysChangeAllOrNothing()
     int refused = 0;
     int together = 0;
     for (int drag = 0; drag < Drags; ++drag) {
-        locks.at(random.bounded(DayCount))->click();
+        locks.at(static_cast<size_t>(random.bounded(DayCount)))->click();
         if (drag % 500 == 0) {
             // Off the grid: what a person types.
             for (size_t day = 0; day < DayCount; ++day) {
