@@ -129,7 +129,10 @@ void TreeGrowth::Rebuild(QStandardItem* pRoot, const NodeFilter& filter, const Q
         if (TreeNode* pNode = Find(iId, NodeKindChannel))
             pNode->SetChecked(true, {});
     }
-    pRoot->appendRows(rows.value(-1));
+    // One by one: a whole list of rows would leave the items below them without their model.
+    const QList<QStandardItem*> branches = rows.value(-1);
+    for (QStandardItem* pBranch : branches)
+        pRoot->appendRow(pBranch);
 }
 
 bool TreeGrowth::Precedes(const TreeNode& a, const TreeNode& b) const
