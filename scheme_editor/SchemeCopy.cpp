@@ -62,7 +62,7 @@ void Apply(AlarmInfoMap& map, const QString& strText, const QVector<TypeCopy>& c
         } else if (present) {
             place.value() = *copy.scheme;
         } else {
-            place = map.insert(place, key, *copy.scheme);
+            place = map.insert(AlarmInfoMap::const_iterator(place), key, *copy.scheme);
         }
     }
 }

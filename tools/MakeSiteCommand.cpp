@@ -68,7 +68,7 @@ int MakeSiteCommand::Run(const QStringList& arguments, QTextStream& out, QTextSt
         return ExitCode::Done;
     }
     if (!parser.positionalArguments().isEmpty())
-        return wrongUse(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().first()));
+        return wrongUse(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
     if (!parser.isSet(doors))
         return wrongUse(tr("--doors is missing."));
     const auto doorCount = Number(parser.value(doors), 1, SiteMaker::MaxDoors);

@@ -152,9 +152,10 @@ void TestAlarmCopyToPopup::theTreeOffersWhatTheModeSays()
     Desk desk(mode);
     for (int type = 0; type <= 18; ++type) {
         QCOMPARE(desk.hand.Device(DeviceOfType(type)) != nullptr, devices.contains(type));
-        for (int kind = 0; kind <= 6; ++kind)
+        for (int kind = 0; kind <= 6; ++kind) {
             QCOMPARE(desk.hand.Channel(ChannelOf(type, kind)) != nullptr,
                      devices.contains(type) && channels.contains(kind));
+        }
     }
 }
 

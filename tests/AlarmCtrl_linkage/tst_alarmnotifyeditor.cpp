@@ -69,7 +69,7 @@ void TestAlarmNotifyEditor::theFormHasItsStatedNamesTextsAndSizes()
         const auto* const label = qobject_cast<QLabel*>(grid->itemAtPosition(row, 0)->widget());
         QCOMPARE(label->objectName(), QLatin1String(expected.label));
         QCOMPARE(label->text(), QLatin1String(expected.text));
-        QCOMPARE(label->alignment() & (Qt::AlignRight | Qt::AlignVCenter), Qt::AlignRight | Qt::AlignVCenter);
+        QVERIFY(label->alignment().testFlag(Qt::AlignRight) && label->alignment().testFlag(Qt::AlignVCenter));
         const QWidget* const button = grid->itemAtPosition(row, 1)->widget();
         QCOMPARE(button, Switch(editor, expected.button));
         QCOMPARE(button->minimumSize(), QSize(36, 0));

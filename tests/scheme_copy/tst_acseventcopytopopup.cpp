@@ -231,10 +231,11 @@ void TestACSEventCopyToPopup::cancelAndEscapeCloseWithoutASignal()
         Desk desk(ACSCopy::Door, TwoControllers());
         QVERIFY(desk.hand.TickDevice(1));
         desk.popup->show();
-        if (escape)
+        if (escape) {
             QTest::keyClick(desk.popup.data(), Qt::Key_Escape);
-        else
+        } else {
             desk.Press(QDialogButtonBox::Cancel);
+        }
         QVERIFY(desk.IsGone());
         QCOMPARE(desk.copies.size(), 0);
     }

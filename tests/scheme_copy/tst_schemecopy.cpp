@@ -55,7 +55,11 @@ AlarmInfoMap CopyStepByStep(AlarmInfoMap map, const QString& strSource, QList<QS
 
 bool SameContent(const AlarmInfoMap& a, const AlarmInfoMap& b)
 {
-    return a.keys() == b.keys() && std::equal(a.cbegin(), a.cend(), b.cbegin());
+    const auto same = [](const auto& left, const auto& right) {
+        return left.first == right.first && left.second == right.second;
+    };
+    return a.size() == b.size() &&
+           std::equal(a.constKeyValueBegin(), a.constKeyValueEnd(), b.constKeyValueBegin(), same);
 }
 
 } // namespace
@@ -185,7 +189,8 @@ void TestSchemeCopy::aDefaultSourceClearsItsTargets()
 void TestSchemeCopy::aMissingSourceClearsItsTargets()
 {
     AlarmInfoMap map;
-    for (const int type : SchemeCopy::DoorEventTypes())
+    const QList<int> types = SchemeCopy::DoorEventTypes();
+    for (const int type : types)
         map[*EventSource::SchemeKey(Text("2$1$0$20"), type)] = Scheme(type);
     map[Key("3$1$0$30", 5)] = Scheme(1);
     const AlarmInfoMap copied =

@@ -83,7 +83,7 @@ void TestAcsScheme::anUnknownCommandIsWrongUse()
         const Run run(Words(line));
         QCOMPARE(run.code, 2);
         QVERIFY(run.out.isEmpty());
-        QVERIFY(run.err.contains(Words(line).first()));
+        QVERIFY(run.err.contains(Words(line).constFirst()));
     }
 }
 
