@@ -3,6 +3,7 @@
 #include "platform/SystemLibrary/SystemPaths.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QThread>
 
 #include <sqlite3.h>
@@ -47,6 +48,10 @@ void StoreConnection::Open()
     const std::optional<AlarmSchemeStatementFailure> failure = m_store->TakeFirstFailure();
     if (!m_failure)
         m_failure = failure;
+    // An opening that could not be committed, because somebody is reading, must not stay under way: it would
+    // lock others out, and nothing could be read within a transaction of its own.
+    if (IsOpen() && sqlite3_get_autocommit(m_store->GetHandle()) == 0)
+        m_store->RollBack();
 }
 
 void StoreConnection::Close()
@@ -85,10 +90,32 @@ bool StoreConnection::SetUp(sqlite3* pDatabase)
 
     // The opening writes, but its transaction starts with a read, and a write after a read is refused at
     // once while another process holds the file. So the wait for that process is done here.
-    if (IsBusy(pDatabase, sqlite3_exec(pDatabase, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr)))
+    const int begun = sqlite3_exec(pDatabase, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+    if (IsBusy(pDatabase, begun))
         return false;
-    sqlite3_exec(pDatabase, "ROLLBACK", nullptr, nullptr, nullptr);
+    if (begun == SQLITE_OK) {
+        CheckSize(pDatabase); // nobody extends the file now
+        sqlite3_exec(pDatabase, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+    if (m_failure)
+        ForbidWriting(pDatabase);
     return true;
+}
+
+void StoreConnection::ForbidWriting(sqlite3* pDatabase)
+{
+    sqlite3_exec(pDatabase, "PRAGMA query_only = ON", nullptr, nullptr, nullptr);
+}
+
+void StoreConnection::CheckSize(sqlite3* pDatabase)
+{
+    // SQLite reads a last page that was cut off as if it ended with zeros.
+    const qint64 size = QFileInfo(QString::fromUtf8(sqlite3_db_filename(pDatabase, "main"))).size();
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(pDatabase, "PRAGMA page_size", -1, &statement, nullptr) == SQLITE_OK &&
+        sqlite3_step(statement) == SQLITE_ROW && size % sqlite3_column_int(statement, 0) != 0)
+        m_failure = AlarmSchemeStatementFailure{SQLITE_CORRUPT, QStringLiteral("the file is cut off")};
+    sqlite3_finalize(statement);
 }
 
 void StoreConnection::CheckHealth(sqlite3* pDatabase)
@@ -106,5 +133,5 @@ void StoreConnection::CheckHealth(sqlite3* pDatabase)
     }
     sqlite3_finalize(statement);
     if (m_failure)
-        sqlite3_exec(pDatabase, "PRAGMA query_only = ON", nullptr, nullptr, nullptr);
+        ForbidWriting(pDatabase);
 }

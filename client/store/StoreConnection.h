@@ -36,6 +36,8 @@ private:
     bool SetUp(sqlite3* pDatabase);
     bool IsBusy(sqlite3* pDatabase, int iCode);
     void CheckHealth(sqlite3* pDatabase);
+    void CheckSize(sqlite3* pDatabase);
+    static void ForbidWriting(sqlite3* pDatabase);
 
     std::chrono::steady_clock::time_point m_deadline{};
     std::optional<AlarmSchemeStatementFailure> m_failure;

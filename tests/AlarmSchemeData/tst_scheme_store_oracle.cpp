@@ -1,0 +1,88 @@
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "tests/AlarmSchemeData/LiteralStore.h"
+#include "tests/AlarmSchemeData/RandomSchemes.h"
+#include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/StoreFolder.h"
+
+#include <QtTest>
+
+class SchemeStoreOracleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void savingRandomMapsLeavesTheRowsOfTheLiteralStatements();
+    void loadingRandomRowsReadsWhatTheLiteralStatementsRead();
+
+private:
+    LogCatcher m_log;
+};
+
+void SchemeStoreOracleTest::savingRandomMapsLeavesTheRowsOfTheLiteralStatements()
+{
+    for (quint32 seed = 1; seed <= 60; ++seed) {
+        const StoreFolder folder;
+        RawDatabase other(QDir(folder.Root()).absoluteFilePath(QStringLiteral("other.db")));
+        other.Run(QStringLiteral("PRAGMA synchronous = OFF"));
+        LiteralStore literal(other.Handle());
+        AlarmSchemeDatabaseParser store;
+        store.ExecOnce(QStringLiteral("PRAGMA synchronous = OFF"));
+        RandomSchemes random(seed);
+        for (int round = 0; round < 5; ++round) {
+            const AlarmInfoMap map = random.Map();
+            literal.SaveAll(map);
+            QCOMPARE(store.SaveAll(&map), 0);
+            RawDatabase saved(folder.File());
+            const QStringList expected = other.Content();
+            QVERIFY2(saved.Content() == expected,
+                     qPrintable(QStringLiteral("seed %1, round %2").arg(seed).arg(round)));
+            QVERIFY(expected.size() > 12);
+        }
+        QCOMPARE(store.FailedStatements(), int64_t(0));
+        AlarmInfoMap loaded;
+        QCOMPARE(store.ReadAll(&loaded), 0);
+        QVERIFY2(loaded == literal.ReadAll(), qPrintable(QStringLiteral("seed %1").arg(seed)));
+    }
+}
+
+void SchemeStoreOracleTest::loadingRandomRowsReadsWhatTheLiteralStatementsRead()
+{
+    // Rows as no save would write them: orphans, doubles, dangling ids, texts where numbers belong.
+    const QStringList values{QStringLiteral("0"),    QStringLiteral("1"),         QStringLiteral("2"),
+                             QStringLiteral("3"),    QStringLiteral("-1"),        QStringLiteral("64"),
+                             QStringLiteral("NULL"), QStringLiteral("'text'"),    QStringLiteral("'2'"),
+                             QStringLiteral("1.5"),  QStringLiteral("86399"),     QStringLiteral("x'3132'"),
+                             QStringLiteral("7"),    QStringLiteral("2000000000")};
+    for (quint32 seed = 1; seed <= 60; ++seed) {
+        const StoreFolder folder;
+        AlarmSchemeDatabaseParser store;
+        RawDatabase other(folder.File());
+        QRandomGenerator random(seed);
+        other.Run(QStringLiteral("begin"));
+        for (const QString& table : RawDatabase::Tables()) {
+            const QStringList columns = other.Rows(
+                QStringLiteral("select name from pragma_table_xinfo('%1') where pk = 0").arg(table));
+            for (int row = random.bounded(12); row > 0 && table != QLatin1String("BaseInfo"); --row) {
+                QStringList cells;
+                for (int column = 0; column < columns.size(); ++column)
+                    cells.append(column == 0 && random.bounded(3) != 0
+                                     ? QString::number(1 + random.bounded(3))
+                                     : values.at(random.bounded(values.size())));
+                QCOMPARE(
+                    other.Run(QStringLiteral("insert into %1(%2) values(%3)")
+                                  .arg(table, columns.join(QLatin1Char(',')), cells.join(QLatin1Char(',')))),
+                    0);
+            }
+        }
+        other.Run(QStringLiteral("commit"));
+        const QStringList before = other.Content();
+        AlarmInfoMap loaded;
+        QCOMPARE(store.ReadAll(&loaded), 0);
+        LiteralStore literal(other.Handle());
+        QVERIFY2(loaded == literal.ReadAll(), qPrintable(QStringLiteral("seed %1").arg(seed)));
+        QCOMPARE(other.Content(), before);
+    }
+}
+
+QTEST_GUILESS_MAIN(SchemeStoreOracleTest)
+#include "tst_scheme_store_oracle.moc"
