@@ -92,6 +92,10 @@ struct Desk
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(time, &out);
     }
+    void Search(const char* szText) const
+    {
+        hand.Tree()->findChild<QLineEdit*>(QStringLiteral("edtSearch"))->setText(QLatin1String(szText));
+    }
     Qt::CheckState State(int64_t iChannelId) const { return hand.Channel(iChannelId)->checkState(); }
 
     SiteHost host;
@@ -175,6 +179,9 @@ private Q_SLOTS:
     void afterASearchThePanelIsEmptyAndSaysWhatToDo();
     void aSearchPutsBoxesBackInLineWithThePickedOutputs();
     void switchingAfterASearchStillWritesIntoTheCurrentOutput();
+    void aTypedSearchThatHidesTheOutputDisablesThePanelUntilItReappears();
+    void tickingADeviceUnderASearchTouchesShownOutputsOnly();
+    void aSchemeShownUnderASearchTicksHiddenOutputsToo();
 
     // Host
     void withoutADeviceManagerNothingIsOfferedAndNothingReturned();
@@ -841,6 +848,49 @@ void TestAlarmOutEditor::switchingAfterASearchStillWritesIntoTheCurrentOutput()
     QCOMPARE(desk.Links(), Lines({"11$3$0$0 manual 45"}));
     desk.Leave();
     QCOMPARE(desk.time->text(), QStringLiteral("45")); // leaving the empty field brings the value back
+}
+
+void TestAlarmOutEditor::aTypedSearchThatHidesTheOutputDisablesThePanelUntilItReappears()
+{
+    Desk desk;
+    desk.editor.SetAlarmOutInfo({Link("11$3$0$0", true, 45)});
+    QVERIFY(desk.hand.ClickChannel(11));
+    desk.Search("Channel 12");
+    QVERIFY(!desk.panel->isEnabled());
+    QVERIFY(desk.IsPanelEmpty());
+    desk.Search("");
+    QVERIFY(desk.panel->isEnabled());
+    QVERIFY(desk.IsPanelEmpty());
+    QCOMPARE(desk.hint->text(), QStringLiteral("Click the output again to see its settings."));
+    QCOMPARE(desk.Links(), Lines({"11$3$0$0 auto 45"}));
+}
+
+void TestAlarmOutEditor::tickingADeviceUnderASearchTouchesShownOutputsOnly()
+{
+    Desk desk;
+    desk.editor.SetAlarmOutInfo({Link("11$3$0$0", false, 45)});
+    desk.Search("Channel 12");
+    QVERIFY(desk.hand.TickDevice(1));
+    QCOMPARE(desk.Links(), Lines({"11$3$0$0 manual 45", "12$3$0$0 auto 20"}));
+    QVERIFY(desk.hand.TickDevice(1, false));
+    QCOMPARE(desk.Links(), Lines({"11$3$0$0 manual 45"}));
+    desk.Search("");
+    QCOMPARE(desk.State(11), Qt::Checked);
+    QCOMPARE(desk.State(12), Qt::Unchecked);
+}
+
+void TestAlarmOutEditor::aSchemeShownUnderASearchTicksHiddenOutputsToo()
+{
+    Desk desk;
+    desk.Search("Channel 21");
+    desk.editor.SetAlarmOutInfo({Link("11$3$0$0", true, 45)});
+    QCOMPARE(desk.State(11), Qt::Checked);
+    QCOMPARE(desk.hand.Device(1)->checkState(), Qt::PartiallyChecked);
+    desk.editor.SetAlarmOutInfo({Link("21$3$0$0", true, 45)});
+    desk.Search("");
+    QCOMPARE(desk.State(11), Qt::Unchecked);
+    QCOMPARE(desk.State(21), Qt::Checked);
+    QCOMPARE(desk.Links(), Lines({"21$3$0$0 auto 45"}));
 }
 
 void TestAlarmOutEditor::withoutADeviceManagerNothingIsOfferedAndNothingReturned()
