@@ -45,10 +45,11 @@ void QAlarmListItemView::AddItem(const QString& strText, int iType)
 {
     QAlarmListItem* const pKnown =
         FindItem([&strText](const QAlarmListItem& item) { return item.text() == strText; });
-    if (pKnown != nullptr)
+    if (pKnown != nullptr) {
         pKnown->show();
-    else
+    } else {
         AppendItem(m_pMainLayout, strText, iType);
+    }
 }
 
 void QAlarmListItemView::AddSubItem(const QString& strText, int iType)

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <functional>
+#include <vector>
 
 using AlarmSchemeCommon::IsAlarmInfoDefault;
 using Change = std::function<void(AlarmInfo&)>;
@@ -12,7 +13,7 @@ Q_DECLARE_METATYPE(Change)
 
 namespace {
 
-QList<QList<int>> Lists()
+std::vector<QList<int>> Lists()
 {
     return {AlarmSchemeCommon::ACSAlarmEvent(), AlarmSchemeCommon::ACSAbnormalEvent(),
             AlarmSchemeCommon::ACSNormalEvent()};
@@ -86,7 +87,7 @@ private Q_SLOTS:
         }
     }
 
-    void theListsAreTheSameEveryTime() { QCOMPARE(Lists(), Lists()); }
+    void theListsAreTheSameEveryTime() { QVERIFY(Lists() == Lists()); }
 
     // the default test
 

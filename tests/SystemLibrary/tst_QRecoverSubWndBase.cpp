@@ -16,9 +16,10 @@ protected:
         if (event->type() != static_cast<QEvent::Type>(1001))
             return;
         const auto recover = static_cast<LXRecoverEvent*>(event);
-        if (recover->GetResultSlot())
-            *recover->GetResultSlot() = std::make_unique<QRecoverSubWndBase>(
-                recover->GetWindowNumber(), eModuleIndexACSEventConfig, "QRecoverSubWndBase", true);
+        if (!recover->GetResultSlot())
+            return;
+        *recover->GetResultSlot() = std::make_unique<QRecoverSubWndBase>(
+            recover->GetWindowNumber(), eModuleIndexACSEventConfig, "QRecoverSubWndBase", true);
     }
 };
 

@@ -232,12 +232,13 @@ QStringList Checker::Violations(const QString& strPath, const QString& strConten
                 complain(header, "this room may not know that one");
             continue;
         }
-        if (isQtWidget && room->reach != QtReach::Widgets)
+        if (isQtWidget && room->reach != QtReach::Widgets) {
             complain(header, "no widgets in this room");
-        else if (isQtGui && room->reach == QtReach::Core)
+        } else if (isQtGui && room->reach == QtReach::Core) {
             complain(header, "Qt Core only in this room");
-        else if (quoted && !IsGenerated(header))
+        } else if (quoted && !IsGenerated(header)) {
             complain(header, "write the path from the repository root");
+        }
     }
     // A window may be told what the client's own store did, but it never holds the store of schemes itself.
     if (speaksSql && !widgetHeader.isEmpty())

@@ -43,10 +43,11 @@ void SourceTree::Collect(const QString& strFolder)
         const QString path = strFolder + entry.fileName();
         if (IsIgnored(path, entry.isDir()))
             continue;
-        if (entry.isDir())
+        if (entry.isDir()) {
             Collect(path + QLatin1Char('/'));
-        else
+        } else {
             m_files.append(path);
+        }
     }
 }
 

@@ -19,7 +19,8 @@ using Targets = QMap<QString, Target>;
 Targets Parse(const QString& strText)
 {
     Targets targets;
-    for (const QString& line : strText.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+    const QStringList lines = strText.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
         const QStringList fields = line.split(QLatin1Char('|'));
         if (fields.size() == 3)
             targets.insert(fields[0], {fields[1], fields[2].split(QLatin1Char(' '), Qt::SkipEmptyParts)});
@@ -65,8 +66,8 @@ QStringList Circle(const Targets& targets)
         done.insert(name);
         return false;
     };
-    for (const QString& name : targets.keys()) {
-        if (walk(name))
+    for (auto target = targets.begin(); target != targets.end(); ++target) {
+        if (walk(target.key()))
             return path;
     }
     return {};

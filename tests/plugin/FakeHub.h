@@ -47,6 +47,7 @@ public:
     }
 
 // clang-format off
+// NOLINTBEGIN(bugprone-macro-parentheses): these macros write declarations
 #define FAKE_SLOT(n) void* SubManager##n() override { return Answer(n); }
 #define FAKE_SLOTS_10(t) \
     FAKE_SLOT(t##0) FAKE_SLOT(t##1) FAKE_SLOT(t##2) FAKE_SLOT(t##3) FAKE_SLOT(t##4) \
@@ -60,6 +61,7 @@ public:
     FAKE_SLOT(55) FAKE_SLOT(56) FAKE_SLOT(57) FAKE_SLOT(58)
 #undef FAKE_SLOTS_10
 #undef FAKE_SLOT
+    // NOLINTEND(bugprone-macro-parentheses)
         // clang-format on
 
         private : void* Answer(int iSlot)
