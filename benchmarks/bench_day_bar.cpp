@@ -85,7 +85,6 @@ void MoveStep(benchmark::State& state)
         benchmark::Counter(static_cast<double>(paints.count), benchmark::Counter::kAvgIterations);
     Send(pDisplay, QEvent::MouseButtonRelease, x, Qt::LeftButton, Qt::NoButton);
 }
-BENCHMARK(MoveStep)->ArgName("bars")->Arg(1)->Arg(7)->Unit(benchmark::kMicrosecond);
 
 void DrawPicture(benchmark::State& state)
 {
@@ -95,7 +94,6 @@ void DrawPicture(benchmark::State& state)
         benchmark::DoNotOptimize(DayBarPicture::Draw(QSize(504, 24), BENCH_DENSITY, content));
     }
 }
-BENCHMARK(DrawPicture)->Unit(benchmark::kMicrosecond);
 
 void MergeDrag(benchmark::State& state)
 {
@@ -104,7 +102,6 @@ void MergeDrag(benchmark::State& state)
         benchmark::DoNotOptimize(DefenceTime::Merge(regions, {50000, 60000, false}));
     }
 }
-BENCHMARK(MergeDrag);
 
 } // namespace
 
@@ -119,6 +116,13 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
+    benchmark::RegisterBenchmark("MoveStep", MoveStep)
+        ->ArgName("bars")
+        ->Arg(1)
+        ->Arg(7)
+        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("DrawPicture", DrawPicture)->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("MergeDrag", MergeDrag)->Unit(benchmark::kMicrosecond);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

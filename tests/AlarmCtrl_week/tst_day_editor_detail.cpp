@@ -90,6 +90,7 @@ private:
 
     std::unique_ptr<QAlarmDayEditor> m_bar;
     QPointer<QAlarmDayDetailEditor> m_lastDialog;
+    QString m_ownWhenTold;
 };
 
 void tst_DayEditorDetail::init()
@@ -160,11 +161,9 @@ void tst_DayEditorDetail::acceptingReplacesTheOwnDay()
 
 void tst_DayEditorDetail::acceptingWithOtherDaysTellsThem()
 {
-    QString ownWhenTold;
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
-    const QObject context;
-    connect(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers, &context,
-            [&] { ownWhenTold = Regions(*m_bar); });
+    connect(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers, this,
+            [this] { m_ownWhenTold = Regions(*m_bar); });
     Open([](QAlarmDayDetailEditor& dialog) {
         TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
         dialog.SetDayMask(127);
@@ -173,7 +172,7 @@ void tst_DayEditorDetail::acceptingWithOtherDaysTellsThem()
     QCOMPARE(copied.count(), 1);
     QCOMPARE(copied.first().at(0).toInt(), 127 - 8);
     QCOMPARE(Text(copied.first().at(1).value<AlarmDefenceTime_t>()), QStringLiteral("[28800 32400]"));
-    QCOMPARE(ownWhenTold, QStringLiteral("[28800 32400]"));
+    QCOMPARE(m_ownWhenTold, QStringLiteral("[28800 32400]"));
 }
 
 void tst_DayEditorDetail::acceptingOnlyForOthersLeavesTheOwnDay()

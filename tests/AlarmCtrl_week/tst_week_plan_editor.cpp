@@ -17,7 +17,6 @@
 #include <functional>
 #include <limits>
 #include <memory>
-#include <vector>
 
 namespace {
 
@@ -442,9 +441,10 @@ void tst_WeekPlanEditor::theFirstFullDayInMapOrderShowsTheTip()
     week.fill(Regions(6));
     m_editor->SetDefenceTime(week.data());
     LockDays({0, 2, 5, 6});
-    std::vector<std::unique_ptr<QSignalSpy>> tips;
+    std::array<std::unique_ptr<QSignalSpy>, 7> tips;
     for (int day = 0; day < 7; ++day) {
-        tips.push_back(std::make_unique<QSignalSpy>(Bar(day), &QAlarmDayEditor::SignalInternalShowTip));
+        tips.at(static_cast<size_t>(day)) =
+            std::make_unique<QSignalSpy>(Bar(day), &QAlarmDayEditor::SignalInternalShowTip);
     }
     Drag(5, 20 * Hour, 21 * Hour);
     // The map is ordered by the bars' addresses.

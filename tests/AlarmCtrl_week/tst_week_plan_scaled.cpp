@@ -140,8 +140,8 @@ void tst_WeekPlanScaled::theBarsAreDrawnInDevicePixels()
     const int width = mouse.Display()->width() * 2;
     QCOMPARE(image.width(), width);
     // Columns of the device, from the contract's arithmetic on the device's width.
-    const int left = static_cast<int>(qint64{8 * 3600} * width / 86399);
-    const int right = static_cast<int>(qint64{12 * 3600} * width / 86399);
+    const int left = static_cast<int>(qint64{28800} * width / 86399);
+    const int right = static_cast<int>(qint64{43200} * width / 86399);
     const QSet<int> lines = [width] {
         QSet<int> columns;
         for (int hour = 0; hour <= 24; ++hour) {
