@@ -175,7 +175,8 @@ void ACSEventSchemeEditor::OnGroupTreeFocusChanged()
     if (pManager == nullptr)
         return;
     EventSourceLookup::Source source;
-    if (const QStandardItem* const pItem = m_pTree->GetSelectedItem()) {
+    const QStandardItem* const pItem = m_pTree.isNull() ? nullptr : m_pTree->GetSelectedItem();
+    if (pItem != nullptr) {
         source = EventSourceLookup::SourceOfNode(*pManager, pItem->data(VantaModel::NodeIdRole).toLongLong(),
                                                  pItem->data(VantaModel::NodeKindRole).toInt());
     }

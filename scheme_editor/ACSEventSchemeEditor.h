@@ -6,6 +6,7 @@
 
 #include <QFrame>
 #include <QList>
+#include <QPointer>
 #include <QString>
 
 #include <array>
@@ -98,7 +99,7 @@ private:
     bool m_bInitialized = false;
     const LXPluginAPI::ManagerList* m_pManagers = nullptr;
     std::unique_ptr<SchemeForm> m_form;
-    VantaComponent::GroupTreeCtrl* m_pTree = nullptr;
+    QPointer<VantaComponent::GroupTreeCtrl> m_pTree; ///< a host may take the widget tree apart piece by piece
     VantaModel::ACSGroupTreeModel* m_pTreeModel = nullptr;
     SchemeSelection m_selection;
     AlarmInfoMap m_schemes;

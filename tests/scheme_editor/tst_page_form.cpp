@@ -166,11 +166,12 @@ void TestPageForm::everyLayoutIsAsStated()
     QFETCH(int, spacing);
     QFETCH(int, margin);
     const ACSEventSchemeEditor page(nullptr);
-    const QLayout* const pLayout = page.findChild<QLayout*>(QLatin1String(QTest::currentDataTag()));
+    const QWidget* const pOwner = widget == page.objectName() ? &page : page.findChild<QWidget*>(widget);
+    QVERIFY(pOwner != nullptr);
+    const QLayout* const pLayout = pOwner->layout();
     QVERIFY(pLayout != nullptr);
+    QCOMPARE(pLayout->objectName(), QString(QLatin1String(QTest::currentDataTag())));
     QCOMPARE(QString::fromLatin1(pLayout->metaObject()->className()), className);
-    QCOMPARE(pLayout->parentWidget()->objectName(), widget);
-    QCOMPARE(pLayout->parentWidget()->layout(), pLayout);
     if (spacing != s_iAny)
         QCOMPARE(pLayout->spacing(), spacing);
     if (margin != s_iAny)
@@ -221,12 +222,12 @@ void TestPageForm::theGridHoldsTheColumnFromTheTop()
 void TestPageForm::theContainerHoldsTheListsAndTheTree()
 {
     const ACSEventSchemeEditor page(nullptr);
-    const auto* const pLayout = page.findChild<QLayout*>(QStringLiteral("verticalLayout_5"));
+    const auto* const pLayout = page.findChild<QWidget*>(QStringLiteral("wndContainer"))->layout();
     const char* const names[] = {"listAlarm", "listAbnormal", "listNormal", "treeAlarmIn"};
     QCOMPARE(pLayout->count(), 4);
     for (int i = 0; i < 4; ++i)
         QCOMPARE(pLayout->itemAt(i)->widget()->objectName(), QString(QLatin1String(names[i])));
-    const auto* const pPage = page.findChild<QLayout*>(QStringLiteral("horizontalLayout"));
+    const auto* const pPage = page.layout();
     const char* const columns[] = {"wndDevTree", "wndOption", "wndSettings"};
     QCOMPARE(pPage->count(), 3);
     for (int i = 0; i < 3; ++i)
@@ -255,7 +256,7 @@ void TestPageForm::theButtonGroupsHoldTheirButtons()
 void TestPageForm::theHeaderHoldsLabelSwitchAndSpacer()
 {
     const ACSEventSchemeEditor page(nullptr);
-    const auto* const pLayout = page.findChild<QLayout*>(QStringLiteral("horizontalLayout_2"));
+    const auto* const pLayout = page.findChild<QWidget*>(QStringLiteral("wndSetingsHeader"))->layout();
     QCOMPARE(pLayout->count(), 3);
     const auto* const pLabel = qobject_cast<QLabel*>(pLayout->itemAt(0)->widget());
     QCOMPARE(pLabel->objectName(), QStringLiteral("lblSettingType"));
@@ -270,7 +271,7 @@ void TestPageForm::theHeaderHoldsLabelSwitchAndSpacer()
 void TestPageForm::theBottomBarHoldsSpacerCopyAndSave()
 {
     const ACSEventSchemeEditor page(nullptr);
-    const auto* const pLayout = page.findChild<QLayout*>(QStringLiteral("horizontalLayout_3"));
+    const auto* const pLayout = page.findChild<QWidget*>(QStringLiteral("widget"))->layout();
     QCOMPARE(pLayout->count(), 3);
     QSpacerItem* const pSpacer = pLayout->itemAt(0)->spacerItem();
     QCOMPARE(pSpacer->sizeHint(), QSize(292, 20));

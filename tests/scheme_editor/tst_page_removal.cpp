@@ -82,7 +82,7 @@ void TestPageRemoval::entriesOfTheDeviceLeaveTheMap()
     OpenPage page(&host.managers);
     page.Page().OnRemoveDevice(Lobby);
     QCOMPARE(SchemeText::Keys(page.Schemes()),
-             Keys({"-100$1$0$1#101", "1000$1$0$1#101", "10$1$0$1#101", "200$1$0$100#101"}));
+             Keys({"-100$1$0$1#101", "10$1$0$1#101", "1000$1$0$1#101", "200$1$0$100#101"}));
 }
 
 void TestPageRemoval::onlyKeysOfFourFieldsBelongToADevice()
