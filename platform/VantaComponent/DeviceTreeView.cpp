@@ -196,10 +196,29 @@ void DeviceTreeView::keyPressEvent(QKeyEvent* event)
         PickAndClick(current);
         return;
     }
+    const QModelIndex step = StepInto(iKey, current);
+    if (step.isValid()) {
+        event->accept();
+        scrollTo(step);
+        PickAndClick(step);
+        return;
+    }
     QTreeView::keyPressEvent(event);
     const QModelIndex after = SelectedRow();
     if (after.isValid() && after != before)
         PickAndClick(after);
+}
+
+/// Left and right walk between a row and what lies below it once there is nothing to fold. Not every style
+/// of the desktop does this by itself.
+QModelIndex DeviceTreeView::StepInto(int iKey, const QModelIndex& current) const
+{
+    const bool bOpen = current.isValid() && isExpanded(current) && model()->hasChildren(current);
+    const int iOutKey = isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
+    const int iInKey = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+    if (iKey == iOutKey && !bOpen)
+        return current.parent();
+    return iKey == iInKey && bOpen ? model()->index(0, 0, current) : QModelIndex();
 }
 
 void DeviceTreeView::contextMenuEvent(QContextMenuEvent* event)

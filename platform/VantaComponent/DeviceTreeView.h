@@ -50,6 +50,7 @@ protected:
 
 private:
     bool IsOnDecoration(const QPoint& pos) const;
+    QModelIndex StepInto(int iKey, const QModelIndex& current) const;
     void Press(const QModelIndex& index, const QPoint& pos);
     void PickAndClick(const QModelIndex& index);
 

@@ -148,6 +148,7 @@ GroupTreeModel::GroupTreeModel(IDeviceManager* pDeviceManager, int iMode, QObjec
     : QStandardItemModel(parent)
     , d(std::make_unique<Private>(this, pDeviceManager, iMode))
 {
+    qRegisterMetaType<int64_t>("int64_t"); // spies and queued connections name the type so
     setColumnCount(1);
     if (pDeviceManager) {
         const QVector<int64_t> ids = pDeviceManager->GetDeviceIds();
@@ -243,7 +244,7 @@ QStandardItem* GroupTreeModel::FindNode(int64_t iNodeId, int32_t iNodeKind) cons
 void GroupTreeModel::SetChecked(QStandardItem* pItem, bool bChecked,
                                 const std::function<bool(const QModelIndex&)>& accept)
 {
-    if (pItem && pItem->model() == this)
+    if (pItem && pItem->model() == this && pItem != invisibleRootItem())
         static_cast<TreeNode*>(pItem)->SetChecked(bChecked, accept);
 }
 
