@@ -26,14 +26,12 @@
 
 namespace {
 
-constexpr int SmallestFont = 9; // points
-constexpr int LargestFont = 9;
+constexpr int FontSize = 9; // points; the forms' columns are drawn for it
 
-// The system's own font, but never outside the sizes that the forms are drawn for.
 QFont ClientFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setPointSize(qBound(SmallestFont, font.pointSize(), LargestFont));
+    font.setPointSize(FontSize);
     return font;
 }
 

@@ -41,7 +41,8 @@ QStringList ModuleDirectories(const QString& strProgramDirectory)
 QStringList TranslationDirectories(const QString& strProgramDirectory)
 {
     QStringList directories;
-    for (const QString& strDirectory : SharedDirectories(strProgramDirectory)) {
+    const QStringList shared = SharedDirectories(strProgramDirectory);
+    for (const QString& strDirectory : shared) {
         directories.append(Below(strDirectory, QStringLiteral("translations")));
     }
     return directories;

@@ -32,8 +32,8 @@ void PageStatus::SetPage(QWidget* pPage)
         const QMetaObject* pMeta = m_page->metaObject();
         const int iProperty = pMeta->indexOfProperty(EditedSchemeProperty);
         if (iProperty >= 0 && pMeta->property(iProperty).hasNotifySignal()) {
-            const int iSlot = metaObject()->indexOfSlot("OnEditedSchemeChanged()");
-            connect(m_page, pMeta->property(iProperty).notifySignal(), this, metaObject()->method(iSlot));
+            QMetaObject::connect(m_page, pMeta->property(iProperty).notifySignalIndex(), this,
+                                 metaObject()->indexOfSlot("OnEditedSchemeChanged()"));
         }
     }
     Q_EMIT SignalChanged();
