@@ -157,9 +157,9 @@ void Maker::AddController(int64_t iGroupId, const QString& strPlace, int iContro
                                       QStringLiteral("Server room"), QStringLiteral("Archive"),
                                       QStringLiteral("Workshop"),    QStringLiteral("Plant room"),
                                       QStringLiteral("Stairwell"),   QStringLiteral("Goods entrance")};
-    DeviceInfo device =
-        NewDevice(VantaLogic::DeviceTypeAccessControl, iGroupId,
-                  QStringLiteral("Door controller %1-%2").arg(strPlace, TwoDigits(iController)));
+    // What tells names apart comes first: trees are narrow.
+    DeviceInfo device = NewDevice(VantaLogic::DeviceTypeAccessControl, iGroupId,
+                                  QStringLiteral("%1 C%2 Door controller").arg(strPlace).arg(iController));
     QStringList doorNames;
     for (int door = 0; door < iDoors; ++door) {
         doorNames.append(
