@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 class TestClientApplication : public QObject
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void takingDownLeavesNoBackendAndNoRemoval();
     void mailSettingsComeBackAtTheNextStart();
     void whatWasUnfoldedComesBackAtTheNextStart();
+    void closingTheWindowEndsTheClient();
     void aPictureOfTheWindowIsWritten();
     void aPictureThatCannotBeWrittenIsReported();
     void theLogLiesInTheDataDirectory();
@@ -251,6 +253,24 @@ void TestClientApplication::whatWasUnfoldedComesBackAtTheNextStart()
     m_client.reset();
     QCOMPARE(ClientSettings(ClientPaths::SettingsFile(m_data->path())).TreeExpansion(),
              QStringList{QStringLiteral("2:1001:1")});
+}
+
+void TestClientApplication::closingTheWindowEndsTheClient()
+{
+    QVERIFY(Start());
+    m_client->Window()->resize(1000, 700);
+    QVERIFY(QTest::qWaitForWindowActive(m_client->Window()));
+    QTimer::singleShot(0, m_client->Window(),
+                       [this] { QTest::keyClick(m_client->Window(), Qt::Key_Q, Qt::ControlModifier); });
+    // A client that does not end fails this test instead of holding it up.
+    QTimer::singleShot(10000, m_client->Window(), [] { QCoreApplication::exit(-1); });
+    QCOMPARE(m_client->Run(), 0);
+    QVERIFY(!m_client->Window()->isVisible());
+    QCOMPARE(QSystem::GetInstance()->GetState(), int(QSystem::StateClosing));
+    m_client.reset();
+    QVERIFY(Start());
+    QCOMPARE(m_client->Window()->size(), QSize(1000, 700));
+    QCOMPARE(QSystem::GetInstance()->GetState(), int(QSystem::StateRunning));
 }
 
 void TestClientApplication::aPictureOfTheWindowIsWritten()
