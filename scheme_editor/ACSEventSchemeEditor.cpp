@@ -25,6 +25,7 @@
 #include "scheme_editor/TabLayout.h"
 #include "ui_ACSEventSchemeEditor.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QStandardItem>
 
@@ -294,6 +295,9 @@ void ACSEventSchemeEditor::OnTabBtnClicked()
     for (std::size_t i = 0; i < tabs.size(); ++i)
         tabs[i].pButton->move(positions[static_cast<int>(i)]);
     std::for_each(tabs.crbegin(), tabs.crend(), [](const SettingsTab& tab) { tab.pButton->raise(); });
+    // The focus must not wander out of the page with the editor that goes.
+    if (m_ui->wndSubSetting->isAncestorOf(QApplication::focusWidget()))
+        m_ui->btnOpenStatus->setFocus();
     for (const SettingsTab& tab : tabs)
         tab.pEditor->hide();
     for (const SettingsTab& tab : tabs) {
