@@ -37,7 +37,7 @@ AlarmWeek::AlarmWeek(const AlarmWeek& other) = default;
 
 // What was moved from stays a usable fresh week.
 AlarmWeek::AlarmWeek(AlarmWeek&& other) noexcept
-    : d(Days::Fresh())
+    : AlarmWeek()
 {
     d.swap(other.d);
 }

@@ -86,10 +86,11 @@ void AlarmSchemeDatabaseParser::Open(const ConnectionSetup& setup)
     } else {
         AcceptQuotedTexts();
         ExecFixed(SchemeStatements::ForeignKeysOn);
-        if (ExecFixed(SchemeStatements::CacheSize) != SQLITE_OK)
+        if (ExecFixed(SchemeStatements::CacheSize) != SQLITE_OK) {
             Close();
-        else
+        } else {
             m_strPath = path;
+        }
     }
 
     BeginTransaction();

@@ -211,10 +211,11 @@ int32_t AlarmSchemeDatabaseParser::ReadVideo(const AlarmSourceKey& key, AlarmInf
         link.Preposition = query.Int(4);
         link.StreamType = query.Int(5);
         link.Time = query.Int(6);
-        if (const std::optional<QString> text = LinkText(SchemeStatements::SelectVideoText, query.Int64(0)))
+        if (const std::optional<QString> text = LinkText(SchemeStatements::SelectVideoText, query.Int64(0))) {
             link.strLinkDevID = *text;
-        else
+        } else {
             links.remove(window);
+        }
     }
     return 0;
 }

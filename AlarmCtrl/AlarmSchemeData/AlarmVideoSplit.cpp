@@ -24,7 +24,7 @@ AlarmSplitCells::AlarmSplitCells(const AlarmSplitCells& other) = default;
 
 // What was moved from stays a usable fresh set of cells.
 AlarmSplitCells::AlarmSplitCells(AlarmSplitCells&& other) noexcept
-    : d(Cells::Fresh())
+    : AlarmSplitCells()
 {
     d.swap(other.d);
 }

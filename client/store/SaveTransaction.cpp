@@ -48,10 +48,11 @@ bool SaveTransaction::Commit()
     const bool committed = m_store.FailedStatements() == m_iFailedBefore &&
                            m_store.GetTransactionDepth() == 0 &&
                            sqlite3_get_autocommit(m_store.GetHandle()) != 0;
-    if (committed)
+    if (committed) {
         m_bEnded = true;
-    else
+    } else {
         Abort();
+    }
     return committed;
 }
 

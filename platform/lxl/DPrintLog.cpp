@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::chrono::milliseconds FatalFlush{1000};
 /// Longer messages are cut: one of them must not fill the queue's memory.
-constexpr size_t LongestMessage = 64 * 1024;
+constexpr size_t LongestMessage = 65536;
 
 QString Formatted(const char* szFormat, va_list arguments)
 {

@@ -28,14 +28,15 @@ QString OneLine(const QString& strText)
     QString line;
     line.reserve(strText.size());
     for (const QChar c : strText) {
-        if (c == QLatin1Char('\n'))
+        if (c == QLatin1Char('\n')) {
             line += QLatin1String("\\n");
-        else if (c == QLatin1Char('\r'))
+        } else if (c == QLatin1Char('\r')) {
             line += QLatin1String("\\r");
-        else if (c == QLatin1Char('\t') || (c.unicode() >= 0x20 && c.unicode() != 0x7F))
+        } else if (c == QLatin1Char('\t') || (c.unicode() >= 0x20 && c.unicode() != 0x7F)) {
             line += c;
-        else
+        } else {
             line += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+        }
     }
     return line;
 }

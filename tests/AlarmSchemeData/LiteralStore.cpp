@@ -96,6 +96,9 @@ LiteralStore::LiteralStore(sqlite3* pDatabase)
     Run("COMMIT");
 }
 
+// The statements are written as they read, not as they are built fastest.
+// NOLINTBEGIN(performance-inefficient-string-concatenation)
+
 void LiteralStore::Run(const string& sql)
 {
     sqlite3_exec(m_db, sql.c_str(), nullptr, nullptr, nullptr);
@@ -182,9 +185,10 @@ void LiteralStore::SaveOne(const AlarmSourceKey& key, const AlarmInfo& info)
 
     Run("delete from AlarmDefenceTimeInfo" + ofId + ";");
     for (int day = 0; day < 7; ++day) {
-        for (const AlarmTimeRegion& region : info.defenceTime[day])
+        for (const AlarmTimeRegion& region : info.defenceTime[day]) {
             Run("insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(" + id + "," +
                 to_string(day + 1) + "," + to_string(region.Begin) + "," + to_string(region.End) + ");");
+        }
     }
 }
 
@@ -329,3 +333,5 @@ AlarmInfo LiteralStore::ReadOne(const AlarmSourceKey& key)
             });
     return info;
 }
+
+// NOLINTEND(performance-inefficient-string-concatenation)

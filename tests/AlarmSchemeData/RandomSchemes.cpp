@@ -45,18 +45,21 @@ AlarmInfo RandomSchemes::Info()
     info.videoSplit.SplitRow = counts[static_cast<size_t>(Below(Below(4) == 0 ? 9 : 4))];
     info.videoSplit.SplitCloum = counts[static_cast<size_t>(Below(Below(4) == 0 ? 9 : 4))];
     info.videoSplit.SplitCount = counts[static_cast<size_t>(Below(9))];
-    for (int i = Below(6); i > 0; --i)
+    for (int i = Below(6); i > 0; --i) {
         info.videoSplit.cells[Below(64)] =
             AlarmSplitWindow{Flip(), Below(9), Below(4), Below(4), -1, Below(4)};
-    for (int i = Below(4); i > 0; --i)
+    }
+    for (int i = Below(4); i > 0; --i) {
         info.videoSplit.videoLinks.insert(
             Below(70) - 2, AlarmLinkVideo{LinkKey(), Below(5) - 1, Below(3) - 1, Flip(), Flip(), Below(100)});
+    }
     for (int i = Below(5); i > 0; --i)
         info.listAlarmOut.append(AlarmLinkAlarmOut{LinkKey(), Flip(), Below(50000) - 10});
     static const std::array<const char*, 7> doors{"1", "2", "0", "x", "", "4294967299", "-5"};
-    for (int i = Below(5); i > 0; --i)
+    for (int i = Below(5); i > 0; --i) {
         info.listDoor.append(
             AlarmLinkDoor{QString::fromLatin1(doors[static_cast<size_t>(Below(7))]), Flip()});
+    }
     if (Flip()) {
         for (int day = 0; day < AlarmWeek::DayCount; ++day) {
             info.defenceTime[day].clear();

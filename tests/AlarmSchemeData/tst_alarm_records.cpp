@@ -392,9 +392,10 @@ void AlarmRecordsTest::aDefaultSchemeInAMapTakesAtMostTwoHundredBytes()
         QVERIFY(info.videoSplit.cells.IsSharedWith(first.videoSplit.cells));
     }
     QVERIFY(ComputedBytes(map.firstKey().strEventSource) <= most);
-    if (before && after)
+    if (before && after) {
         QVERIFY2(*after - *before <= most * count,
                  qPrintable(QString::number(static_cast<double>(*after - *before) / count)));
+    }
 }
 
 QTEST_APPLESS_MAIN(AlarmRecordsTest)

@@ -64,10 +64,11 @@ void SchemeStoreOracleTest::loadingRandomRowsReadsWhatTheLiteralStatementsRead()
                 QStringLiteral("select name from pragma_table_xinfo('%1') where pk = 0").arg(table));
             for (int row = random.bounded(12); row > 0 && table != QLatin1String("BaseInfo"); --row) {
                 QStringList cells;
-                for (int column = 0; column < columns.size(); ++column)
+                for (int column = 0; column < columns.size(); ++column) {
                     cells.append(column == 0 && random.bounded(3) != 0
                                      ? QString::number(1 + random.bounded(3))
                                      : values.at(random.bounded(values.size())));
+                }
                 QCOMPARE(
                     other.Run(QStringLiteral("insert into %1(%2) values(%3)")
                                   .arg(table, columns.join(QLatin1Char(',')), cells.join(QLatin1Char(',')))),

@@ -217,10 +217,11 @@ void SchemeStoreWritesTest::deletingRemovesEverythingOfTheScheme()
     ForgetStamp();
     QCOMPARE(m_store->DeleteSchemes({Key("x", 9), Key("a", 1)}), 0);
     for (const char* table : {"AlarmUniqueID", "AlarmBaseInfo", "AlarmSplitInfo", "AlarmLinkVideoInfo",
-                              "AlarmLinkDoorInfo", "AlarmLinkAlarmOutInfo", "AlarmDefenceTimeInfo"})
+                              "AlarmLinkDoorInfo", "AlarmLinkAlarmOutInfo", "AlarmDefenceTimeInfo"}) {
         QCOMPARE(m_raw->Value(QStringLiteral("select group_concat(distinct AlarmUniqueID) from %1")
                                   .arg(QLatin1String(table))),
                  QStringLiteral("2"));
+    }
     QVERIFY(Stamp() != QLatin1String("never"));
 }
 

@@ -275,6 +275,7 @@ void DPrintLogTest::linesOfManyThreadsStayWhole()
     constexpr int threads = 8;
     constexpr int each = 500;
     std::vector<std::thread> running;
+    running.reserve(threads);
     for (int thread = 0; thread < threads; ++thread) {
         running.emplace_back([thread] {
             for (int i = 0; i < each; ++i)
