@@ -1,5 +1,7 @@
 #include "ClientDriver.h"
 
+#include "Hand.h"
+
 #include "client/HomePage.h"
 #include "client/MainWindow.h"
 #include "client/PluginTile.h"
@@ -15,13 +17,6 @@
 #include <QTreeView>
 #include <QtTest>
 
-namespace {
-
-constexpr int NodeIdRole = 1057;
-constexpr int NodeKindRole = 1058;
-
-} // namespace
-
 ClientDriver::ClientDriver(const QString& strDataDirectory, UserRole role)
 {
     m_options.strDataDirectory = strDataDirectory;
@@ -33,6 +28,11 @@ ClientDriver::ClientDriver(const QString& strDataDirectory, UserRole role)
 ClientDriver::~ClientDriver()
 {
     End();
+}
+
+void ClientDriver::UseSiteFile(const QString& strPath)
+{
+    m_options.strSiteFile = strPath;
 }
 
 bool ClientDriver::Start()
@@ -61,35 +61,7 @@ void ClientDriver::End()
 
 bool ClientDriver::ClickNode(qint64 iId, int iKind)
 {
-    QTreeView* pTree = Tree();
-    const QModelIndex index =
-        pTree == nullptr ? QModelIndex() : Find(*pTree->model(), QModelIndex(), iId, iKind);
-    if (!index.isValid()) {
-        return false;
-    }
-    QList<QModelIndex> folded;
-    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
-        if (!pTree->isExpanded(above)) {
-            folded.prepend(above);
-        }
-    }
-    // Unfolding as a person does: a click on the row and the right arrow key.
-    for (const QModelIndex& above : qAsConst(folded)) {
-        pTree->scrollTo(above);
-        QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          pTree->visualRect(above).center());
-        QTest::keyClick(pTree, Qt::Key_Right);
-        if (!pTree->isExpanded(above)) {
-            return false;
-        }
-    }
-    pTree->scrollTo(index);
-    const QRect row = pTree->visualRect(index);
-    if (row.isEmpty() || !pTree->viewport()->rect().contains(row.center())) {
-        return false;
-    }
-    QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
-    return true;
+    return Hand::ClickRow(Tree(), iId, iKind);
 }
 
 bool ClientDriver::ClickEvent(const QString& strName)
@@ -188,20 +160,4 @@ QAbstractButton* ClientDriver::EventItem(const QString& strName) const
         }
     }
     return nullptr;
-}
-
-QModelIndex ClientDriver::Find(const QAbstractItemModel& model, const QModelIndex& parent, qint64 iId,
-                               int iKind)
-{
-    for (int i = 0; i < model.rowCount(parent); ++i) {
-        const QModelIndex index = model.index(i, 0, parent);
-        if (index.data(NodeIdRole).toLongLong() == iId && index.data(NodeKindRole).toInt() == iKind) {
-            return index;
-        }
-        const QModelIndex below = Find(model, index, iId, iKind);
-        if (below.isValid()) {
-            return below;
-        }
-    }
-    return {};
 }

@@ -2,7 +2,6 @@
 
 #include "client/ClientApplication.h"
 
-#include <QModelIndex>
 #include <QObject>
 
 #include <functional>
@@ -21,8 +20,9 @@ public:
     explicit ClientDriver(const QString& strDataDirectory, UserRole role = UserRole::Administrator);
     ~ClientDriver() override;
 
-    bool Start();      ///< without opening a page
-    bool OpenByTile(); ///< clicks the tile of the event page
+    void UseSiteFile(const QString& strPath); ///< in place of the one in the data directory
+    bool Start();                             ///< without opening a page
+    bool OpenByTile();                        ///< clicks the tile of the event page
     void End();
 
     bool ClickNode(qint64 iId, int iKind);   ///< unfolds what hides the node and clicks its row
@@ -32,6 +32,7 @@ public:
     bool HasMark(const QString& strEvent) const; ///< whether the entry of an event shows its mark
 
     QWidget* Page() const;
+    QTreeView* Tree() const; ///< the page's own, not that of a tab or popup
     QString StatusText() const;
     static QString LastNote();
     ClientApplication& Client() { return *m_client; }
@@ -45,10 +46,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QTreeView* Tree() const;
     QAbstractButton* EventItem(const QString& strName) const;
-    static QModelIndex Find(const QAbstractItemModel& model, const QModelIndex& parent, qint64 iId,
-                            int iKind);
 
     ClientOptions m_options;
     std::unique_ptr<ClientApplication> m_client;

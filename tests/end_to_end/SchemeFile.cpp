@@ -44,3 +44,24 @@ QString SchemeFile::Flags(const QString& strSource, int iType) const
                     .arg(strSource, QString::number(iType)))
         .join(QLatin1Char('\n'));
 }
+
+QStringList SchemeFile::Outputs(const QString& strSource, int iType) const
+{
+    return Rows(QStringLiteral("select k.strLinkAlarmID, o.bAutoOpen, o.Time from AlarmUniqueID u "
+                               "join AlarmLinkAlarmOutInfo o on o.AlarmUniqueID = u.AlarmUniqueID "
+                               "join AlarmLinkAlarmOutID k on k.AlarmLinkAlarmOutID = o.AlarmLinkAlarmOutID "
+                               "where u.strEventSource = '%1' and u.AlarmType = %2 order by 1")
+                    .arg(strSource, QString::number(iType)));
+}
+
+QStringList SchemeFile::Content() const
+{
+    return Rows(QStringLiteral("select * from AlarmUniqueID order by 1")) +
+           Rows(QStringLiteral("select AlarmUniqueID, bOpen, bOpenSound, bEmapTwinkle, bSendEmail from "
+                               "AlarmBaseInfo order by 1")) +
+           Rows(QStringLiteral("select AlarmUniqueID, AlarmLinkAlarmOutID, bAutoOpen, Time from "
+                               "AlarmLinkAlarmOutInfo order by 1, 2")) +
+           Rows(QStringLiteral("select * from AlarmLinkAlarmOutID order by 1")) +
+           Rows(QStringLiteral("select AlarmUniqueID, Day, \"Begin\", \"End\" from AlarmDefenceTimeInfo "
+                               "order by 1, 2, 3"));
+}

@@ -23,6 +23,12 @@ public:
     /// The flags "bOpen|bOpenSound|bSendEmail" of a scheme; empty when the file does not hold it.
     QString Flags(const QString& strSource, int iType) const;
 
+    /// The outputs "key|bAutoOpen|Time" that a scheme drives, by key.
+    QStringList Outputs(const QString& strSource, int iType) const;
+
+    /// The rows of every table that says something about schemes, for comparing files; not their time stamp.
+    QStringList Content() const;
+
 private:
     sqlite3* m_pDatabase = nullptr;
 };
