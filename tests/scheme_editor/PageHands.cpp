@@ -46,8 +46,8 @@ QTreeView* ViewOf(const VantaComponent::GroupTreeCtrl* pTree)
 
 void SendMouse(QWidget* pWidget, QEvent::Type type, int iX, Qt::MouseButton button, Qt::MouseButtons held)
 {
-    const QPointF local(iX, pWidget->height() / 2);
-    QMouseEvent event(type, local, pWidget->mapToGlobal(local.toPoint()), button, held, Qt::NoModifier);
+    const QPoint local(iX, pWidget->height() / 2);
+    QMouseEvent event(type, local, pWidget->mapToGlobal(local), button, held, Qt::NoModifier);
     QCoreApplication::sendEvent(pWidget, &event);
 }
 

@@ -153,10 +153,11 @@ bool TreeExpansionDouble::IsExpanded(int32_t iNodeKind, int64_t iNodeId) const
 
 void TreeExpansionDouble::SetExpanded(int32_t iNodeKind, int64_t iNodeId, bool bExpanded)
 {
-    if (bExpanded)
+    if (bExpanded) {
         m_expanded.insert({iNodeKind, iNodeId});
-    else
+    } else {
         m_expanded.remove({iNodeKind, iNodeId});
+    }
 }
 
 std::string HubDouble::GetServiceName() const

@@ -29,17 +29,19 @@ QString SchemeText::Line(const AlarmSourceKey& key, const AlarmInfo& info)
         parts.append(QStringLiteral("twinkle"));
     if (info.bSendEmail)
         parts.append(QStringLiteral("mail"));
-    if (!(info.videoSplit == fresh.videoSplit))
+    if (!(info.videoSplit == fresh.videoSplit)) {
         parts.append(QStringLiteral("video %1x%2 of %3, %4 links")
                          .arg(info.videoSplit.SplitRow)
                          .arg(info.videoSplit.SplitCloum)
                          .arg(info.videoSplit.SplitCount)
                          .arg(info.videoSplit.videoLinks.size()));
-    for (const AlarmLinkAlarmOut& link : info.listAlarmOut)
+    }
+    for (const AlarmLinkAlarmOut& link : info.listAlarmOut) {
         parts.append(QStringLiteral("out %1 %2 %3")
                          .arg(link.strLinkAlarmID)
                          .arg(link.bAutoOpen ? QStringLiteral("auto") : QStringLiteral("manual"))
                          .arg(link.Time));
+    }
     for (const AlarmLinkDoor& door : info.listDoor)
         parts.append(QStringLiteral("door %1 %2").arg(door.strDoorID).arg(door.bAlwaysOpen ? 1 : 0));
     for (int day = 0; day < AlarmWeek::DayCount; ++day) {

@@ -84,14 +84,15 @@ private:
         }
         if (m_before)
             m_before();
-        if (m_hand == Accept && pAccept != nullptr)
+        if (m_hand == Accept && pAccept != nullptr) {
             QTest::mouseClick(pAccept, Qt::LeftButton);
-        else if (m_hand == Refuse && pRefuse != nullptr)
+        } else if (m_hand == Refuse && pRefuse != nullptr) {
             QTest::mouseClick(pRefuse, Qt::LeftButton);
-        else if (m_hand == Close)
+        } else if (m_hand == Close) {
             pBox->close();
-        else
+        } else {
             QTest::keyClick(pBox, Qt::Key_Escape);
+        }
     }
 
     Hand m_hand;

@@ -346,9 +346,10 @@ void TestPageForm::textsAreTranslatedInThePagesContext()
                                                        {"btnDefTime", "Defence Time"},
                                                        {"btnCopyTo", "Copy to"},
                                                        {"btnSave", "Save"}};
-    for (const auto& text : texts)
+    for (const auto& text : texts) {
         QCOMPARE(page.findChild<QPushButton*>(QLatin1String(text.first))->text(),
                  QStringLiteral("ACSEventSchemeEditor/%1").arg(QLatin1String(text.second)));
+    }
     QCOMPARE(page.findChild<QLabel*>(QStringLiteral("lblSettingType"))->text(),
              QStringLiteral("SettingType"));
     QCoreApplication::removeTranslator(&translator);

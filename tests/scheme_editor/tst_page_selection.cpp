@@ -89,6 +89,7 @@ private Q_SLOTS:
     void anEventThatIsCurrentAlreadyChangesNothing();
     void anInputThatIsCurrentAlreadyChangesNothing();
     void hiddenListsAreNotHeard();
+    void hiddenInputsAreNotHeard();
     void aListIsHeardOnceHoweverOftenItWasShown();
     void arrowKeysInTheListChangeTheEvent();
     void everySelectionGivesBackItsDeviceAndChannelObjects();
@@ -631,6 +632,21 @@ void TestPageSelection::hiddenListsAreNotHeard()
     Q_EMIT page.hands.List("listAlarm")->SignalCurrentItemChanged(QString(), FirstAlarm());
     QCOMPARE(page.hands.SettingType(), QCommon::GetAlarmNameByType(2));
     QVERIFY(!page.Holds(Key("100$1$1$0"), FirstAlarm()));
+}
+
+void TestPageSelection::hiddenInputsAreNotHeard()
+{
+    PageHost host;
+    OpenPage page(&host.managers);
+    QVERIFY(page.hands.ClickDevice(Lobby));
+    QVERIFY(page.hands.ClickDoor(Front));
+    QVERIFY(page.hands.ToggleSound());
+    QTreeWidget* const pTree = page.hands.InputTree();
+    QCOMPARE(pTree->topLevelItemCount(), 1);
+    pTree->setCurrentItem(pTree->topLevelItem(0));
+    QVERIFY(page.hands.AreSettingsEnabled());
+    QVERIFY(page.hands.IsSoundShown());
+    QVERIFY(!page.Scheme(Key("100$1$0$101"), FirstAlarm()).bOpenSound);
 }
 
 void TestPageSelection::aListIsHeardOnceHoweverOftenItWasShown()

@@ -67,24 +67,25 @@ public:
     {
         const int what = Random(24);
         QString strProblem;
-        if (what < 5)
+        if (what < 5) {
             strProblem = ClickNode(s_nodes[Random(12)]);
-        else if (what < 7)
+        } else if (what < 7) {
             strProblem = ClickCategory(Random(4));
-        else if (what < 10)
+        } else if (what < 10) {
             strProblem = ClickEvent();
-        else if (what < 12)
+        } else if (what < 12) {
             strProblem = ClickInput();
-        else if (what == 12)
+        } else if (what == 12) {
             strProblem = ClickTab();
-        else if (what == 13)
+        } else if (what == 13) {
             strProblem = Search();
-        else if (what < 22)
+        } else if (what < 22) {
             strProblem = Edit();
-        else if (what == 22)
+        } else if (what == 22) {
             strProblem = RemoveOrAdd();
-        else
+        } else {
             strProblem = Save();
+        }
         if (strProblem.isEmpty())
             strProblem = Compare();
         return strProblem.isEmpty() ? QString() : m_strDone + QLatin1String(": ") + strProblem;
@@ -115,12 +116,13 @@ private:
 
     void Select(const Node* pNode)
     {
-        if (pNode == nullptr || !pNode->bSource)
+        if (pNode == nullptr || !pNode->bSource) {
             m_model.SelectNothing();
-        else if (pNode->iChannelId == 0)
+        } else if (pNode->iChannelId == 0) {
             m_model.SelectDevice(pNode->iDeviceId, InputsOf(pNode->iDeviceId));
-        else
+        } else {
             m_model.SelectDoor(pNode->iDeviceId, pNode->iChannelId);
+        }
     }
 
     QString ClickNode(const Node& node)
@@ -195,7 +197,7 @@ private:
                                        QStringLiteral("Lobby"),
                                        QStringLiteral("Gate"),
                                        QStringLiteral("nothing matches this")};
-        const QString text = texts.at(Random(texts.size()));
+        const QString& text = texts.at(Random(texts.size()));
         m_strDone = QStringLiteral("search \"%1\"").arg(text);
         if (!m_page.hands.Search(text))
             return QStringLiteral("the search box cannot be used");
@@ -210,16 +212,17 @@ private:
         const int day = Random(7);
         bool bDone = false;
         m_strDone = QStringLiteral("edit %1 (day %2)").arg(what).arg(day);
-        if (what < 2)
+        if (what < 2) {
             bDone = m_page.hands.ToggleOpen();
-        else if (what < 4)
+        } else if (what < 4) {
             bDone = m_page.hands.ToggleSound();
-        else if (what == 4)
+        } else if (what == 4) {
             bDone = m_page.hands.ToggleMail();
-        else if (what < 7)
+        } else if (what < 7) {
             bDone = m_page.hands.ToggleOutput(what == 5 ? Horn : Lamp);
-        else
+        } else {
             bDone = m_page.hands.ToggleDay(day);
+        }
         if (bDone != bPossible)
             return QStringLiteral("a scheme can be edited exactly while there is one");
         if (!bDone)
