@@ -175,8 +175,8 @@
         <translation>Client for configuring the alarm schemes of a site.</translation>
     </message>
     <message>
-        <source>Unexpected argument "%1".</source>
-        <translation>Unexpected argument "%1".</translation>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Unexpected argument &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The option --%1 needs a value.</source>
@@ -187,8 +187,8 @@
         <translation>The option --%1 is given more than once.</translation>
     </message>
     <message>
-        <source>"%1" is no value for --%2; use one of: %3.</source>
-        <translation>"%1" is no value for --%2; use one of: %3.</translation>
+        <source>&quot;%1&quot; is no value for --%2; use one of: %3.</source>
+        <translation>&quot;%1&quot; is no value for --%2; use one of: %3.</translation>
     </message>
 </context>
 <context>
@@ -202,16 +202,16 @@
         <translation>Commands:</translation>
     </message>
     <message>
-        <source>"acs-scheme &lt;command&gt; --help" lists a command's options.</source>
-        <translation>"acs-scheme &lt;command&gt; --help" lists a command's options.</translation>
+        <source>&quot;acs-scheme &lt;command&gt; --help&quot; lists a command&apos;s options.</source>
+        <translation>&quot;acs-scheme &lt;command&gt; --help&quot; lists a command&apos;s options.</translation>
     </message>
     <message>
         <source>No command given.</source>
         <translation>No command given.</translation>
     </message>
     <message>
-        <source>Unknown command "%1".</source>
-        <translation>Unknown command "%1".</translation>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation>Unknown command &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -236,8 +236,8 @@
         <translation>Modules</translation>
     </message>
     <message>
-        <source>No module is loaded; put a module file into the "modules" folder beside the program and start again.</source>
-        <translation>No module is loaded; put a module file into the "modules" folder beside the program and start again.</translation>
+        <source>No module is loaded; put a module file into the &quot;modules&quot; folder beside the program and start again.</source>
+        <translation>No module is loaded; put a module file into the &quot;modules&quot; folder beside the program and start again.</translation>
     </message>
 </context>
 <context>
@@ -292,8 +292,8 @@
         <translation>The server is missing.</translation>
     </message>
     <message>
-        <source>"%1" is no host name and no address.</source>
-        <translation>"%1" is no host name and no address.</translation>
+        <source>&quot;%1&quot; is no host name and no address.</source>
+        <translation>&quot;%1&quot; is no host name and no address.</translation>
     </message>
     <message>
         <source>The port must be from 1 to 65535.</source>
@@ -426,8 +426,8 @@
         <translation>Module %1: %2</translation>
     </message>
     <message>
-        <source>There is no module "%1".</source>
-        <translation>There is no module "%1".</translation>
+        <source>There is no module &quot;%1&quot;.</source>
+        <translation>There is no module &quot;%1&quot;.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n device(s)</source>
@@ -502,8 +502,8 @@ Data directory: %2</translation>
         <translation>Usage: %1 --doors N [--seed S] [--output FILE]</translation>
     </message>
     <message>
-        <source>Unexpected argument "%1".</source>
-        <translation>Unexpected argument "%1".</translation>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Unexpected argument &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>--doors is missing.</source>
@@ -525,8 +525,8 @@ Data directory: %2</translation>
 <context>
     <name>PluginLoader</name>
     <message>
-        <source>the module key "%1" is taken by %2</source>
-        <translation>the module key "%1" is taken by %2</translation>
+        <source>the module key &quot;%1&quot; is taken by %2</source>
+        <translation>the module key &quot;%1&quot; is taken by %2</translation>
     </message>
     <message>
         <source>the module gives no page</source>
@@ -1109,24 +1109,24 @@ Data directory: %2</translation>
         <translation>the entries of a list must be objects</translation>
     </message>
     <message>
-        <source>the field "%1" must be a whole number from 1 to %2</source>
-        <translation>the field "%1" must be a whole number from 1 to %2</translation>
+        <source>the field &quot;%1&quot; must be a whole number from 1 to %2</source>
+        <translation>the field &quot;%1&quot; must be a whole number from 1 to %2</translation>
     </message>
     <message>
-        <source>the field "%1" must be a whole number from 0 to %2</source>
-        <translation>the field "%1" must be a whole number from 0 to %2</translation>
+        <source>the field &quot;%1&quot; must be a whole number from 0 to %2</source>
+        <translation>the field &quot;%1&quot; must be a whole number from 0 to %2</translation>
     </message>
     <message>
-        <source>the field "%1" must be true or false</source>
-        <translation>the field "%1" must be true or false</translation>
+        <source>the field &quot;%1&quot; must be true or false</source>
+        <translation>the field &quot;%1&quot; must be true or false</translation>
     </message>
     <message>
-        <source>the field "%1" must be a text</source>
-        <translation>the field "%1" must be a text</translation>
+        <source>the field &quot;%1&quot; must be a text</source>
+        <translation>the field &quot;%1&quot; must be a text</translation>
     </message>
     <message>
-        <source>the field "%1" must be a list</source>
-        <translation>the field "%1" must be a list</translation>
+        <source>the field &quot;%1&quot; must be a list</source>
+        <translation>the field &quot;%1&quot; must be a list</translation>
     </message>
     <message>
         <source>the id %1 already stands on line %2</source>
@@ -1137,16 +1137,16 @@ Data directory: %2</translation>
         <translation>the name is not valid Unicode</translation>
     </message>
     <message>
-        <source>the field "%1" stands twice</source>
-        <translation>the field "%1" stands twice</translation>
+        <source>the field &quot;%1&quot; stands twice</source>
+        <translation>the field &quot;%1&quot; stands twice</translation>
     </message>
     <message>
-        <source>unknown field "%1"</source>
-        <translation>unknown field "%1"</translation>
+        <source>unknown field &quot;%1&quot;</source>
+        <translation>unknown field &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the field "%1" is missing</source>
-        <translation>the field "%1" is missing</translation>
+        <source>the field &quot;%1&quot; is missing</source>
+        <translation>the field &quot;%1&quot; is missing</translation>
     </message>
     <message>
         <source>the number %1 of kind %2 already stands on line %3</source>
@@ -1246,12 +1246,12 @@ Data directory: %2</translation>
         <translation>Remove device</translation>
     </message>
     <message>
-        <source>Remove "%1" from the site? Its alarm schemes go with it.</source>
-        <translation>Remove "%1" from the site? Its alarm schemes go with it.</translation>
+        <source>Remove &quot;%1&quot; from the site? Its alarm schemes go with it.</source>
+        <translation>Remove &quot;%1&quot; from the site? Its alarm schemes go with it.</translation>
     </message>
     <message>
-        <source>No device matches "%1"; clear the search to see all devices.</source>
-        <translation>No device matches "%1"; clear the search to see all devices.</translation>
+        <source>No device matches &quot;%1&quot;; clear the search to see all devices.</source>
+        <translation>No device matches &quot;%1&quot;; clear the search to see all devices.</translation>
     </message>
     <message>
         <source>The site has no device that can be chosen here.</source>
