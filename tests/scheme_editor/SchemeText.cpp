@@ -37,13 +37,14 @@ QString SchemeText::Line(const AlarmSourceKey& key, const AlarmInfo& info)
                          .arg(info.videoSplit.videoLinks.size()));
     }
     for (const AlarmLinkAlarmOut& link : info.listAlarmOut) {
-        parts.append(QStringLiteral("out %1 %2 %3")
-                         .arg(link.strLinkAlarmID)
-                         .arg(link.bAutoOpen ? QStringLiteral("auto") : QStringLiteral("manual"))
-                         .arg(link.Time));
+        parts.append(
+            QStringLiteral("out %1 %2 %3")
+                .arg(link.strLinkAlarmID, link.bAutoOpen ? QStringLiteral("auto") : QStringLiteral("manual"))
+                .arg(link.Time));
     }
     for (const AlarmLinkDoor& door : info.listDoor)
-        parts.append(QStringLiteral("door %1 %2").arg(door.strDoorID).arg(door.bAlwaysOpen ? 1 : 0));
+        parts.append(
+            QStringLiteral("door %1 %2").arg(door.strDoorID, QString::number(door.bAlwaysOpen ? 1 : 0)));
     for (int day = 0; day < AlarmWeek::DayCount; ++day) {
         if (info.defenceTime[day] != fresh.defenceTime[day])
             parts.append(QStringLiteral("day%1 [%2]").arg(day).arg(DayText(info.defenceTime[day])));

@@ -70,7 +70,8 @@ private:
         bAsked = true;
         strTitle = pBox->windowTitle();
         pParent = pBox->parentWidget();
-        for (const QLabel* const pLabel : pBox->findChildren<QLabel*>())
+        const QList<QLabel*> labels = pBox->findChildren<QLabel*>();
+        for (const QLabel* const pLabel : labels)
             texts.append(pLabel->text());
         const QList<QPushButton*> found = pBox->findChildren<QPushButton*>();
         QPushButton* pAccept = nullptr;
@@ -104,7 +105,10 @@ LXGUI::LXMessageNotify* Notes()
     return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance();
 }
 
-const QString s_noRight = QStringLiteral("You do not have system config right.");
+QString NoRight()
+{
+    return QStringLiteral("You do not have system config right.");
+}
 
 struct ShownEditor
 {
@@ -426,7 +430,7 @@ void TestNotifyEditor::acceptingWithoutTheRightKeepsMailOnAndSaysSo()
     shown.ClickMail();
     QVERIFY(answer.bAsked);
     QCOMPARE(notes.count(), 1);
-    QCOMPARE(notes.constFirst().constFirst().toString(), s_noRight);
+    QCOMPARE(notes.constFirst().constFirst().toString(), NoRight());
     QVERIFY(shown.pMail->isToggled());
     QVERIFY(shown.Read().bSendEmail);
     QVERIFY(host.mainWindow.messages.isEmpty());
@@ -441,7 +445,7 @@ void TestNotifyEditor::anotherRightIsNotEnough()
     const BoxAnswer answer(BoxAnswer::Accept);
     shown.ClickMail();
     QVERIFY(answer.bAsked);
-    QCOMPARE(Notes()->GetLastText(), s_noRight);
+    QCOMPARE(Notes()->GetLastText(), NoRight());
     QVERIFY(host.mainWindow.messages.isEmpty());
 }
 

@@ -376,9 +376,9 @@ void TestPageForm::aPageIsAFrameWithoutWindowFlags()
     const ACSEventSchemeEditor page(nullptr);
     QVERIFY(qobject_cast<const QFrame*>(&page) != nullptr);
     QWidget parent;
-    const auto* const pChild = new ACSEventSchemeEditor(&parent);
-    QVERIFY(!pChild->isWindow());
-    QCOMPARE(pChild->parentWidget(), &parent);
+    const ACSEventSchemeEditor child(&parent);
+    QVERIFY(!child.isWindow());
+    QCOMPARE(child.parentWidget(), &parent);
 }
 
 QTEST_MAIN(TestPageForm)

@@ -37,9 +37,15 @@ int FirstNormal()
     return AlarmSchemeCommon::ACSNormalEvent().constFirst();
 }
 
-const QStringList s_doorCategories{QStringLiteral("btnAlarm"), QStringLiteral("btnAbnormal"),
-                                   QStringLiteral("btnNormal")};
-const QStringList s_deviceCategories{QStringLiteral("btnExternalAlarm")};
+QStringList DoorCategories()
+{
+    return {QStringLiteral("btnAlarm"), QStringLiteral("btnAbnormal"), QStringLiteral("btnNormal")};
+}
+
+QStringList DeviceCategories()
+{
+    return {QStringLiteral("btnExternalAlarm")};
+}
 
 } // namespace
 
@@ -126,7 +132,7 @@ void TestPageSelection::aDoorOffersThreeCategoriesAndShowsTheFirst()
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    QCOMPARE(page.hands.VisibleCategories(), s_doorCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DoorCategories());
     QVERIFY(page.hands.Button("btnAlarm")->isChecked());
     QCOMPARE(page.hands.VisibleList(), page.hands.List("listAlarm"));
 }
@@ -177,12 +183,12 @@ void TestPageSelection::aDeviceOffersItsAlarmInputsOnly()
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDevice(Lobby));
-    QCOMPARE(page.hands.VisibleCategories(), s_deviceCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DeviceCategories());
     QVERIFY(page.hands.Button("btnExternalAlarm")->isChecked());
     QCOMPARE(page.hands.InputKeys(), (QStringList{Key("100$3$1$103"), Key("100$3$1$104")}));
     QCOMPARE(page.hands.InputTree()->topLevelItemCount(), 1);
     QVERIFY(page.hands.ClickDoor(Front));
-    QCOMPARE(page.hands.VisibleCategories(), s_doorCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DoorCategories());
 }
 
 void TestPageSelection::theFirstAlarmInputIsCurrent()
@@ -285,7 +291,7 @@ void TestPageSelection::aDeviceWithoutInputsHasNothingToEdit()
     QVERIFY(page.hands.ToggleOpen());
     QVERIFY(page.hands.ToggleSound());
     QVERIFY(page.hands.ClickDevice(Vault));
-    QCOMPARE(page.hands.VisibleCategories(), s_deviceCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DeviceCategories());
     QCOMPARE(page.hands.InputTree()->topLevelItemCount(), 0);
     QVERIFY(!page.hands.AreSettingsEnabled());
     QVERIFY(!page.hands.IsOpenShown());
@@ -457,16 +463,17 @@ void TestPageSelection::anInputThatCannotBeReadIsLeftOut()
 
 void TestPageSelection::theCategoryButtonsStayVisibleWhileNothingIsSelected()
 {
+    const QStringList categories = DoorCategories();
     PageHost host;
     OpenPage page(&host.managers);
-    for (const QString& name : s_doorCategories)
+    for (const QString& name : categories)
         QVERIFY(page.hands.VisibleCategories().contains(name));
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ClickDoor(Sealed));
-    QCOMPARE(page.hands.VisibleCategories(), s_doorCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DoorCategories());
     QVERIFY(page.hands.ClickDevice(Lobby));
     QVERIFY(page.hands.ClickDoor(Sealed));
-    QCOMPARE(page.hands.VisibleCategories(), s_deviceCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DeviceCategories());
 }
 
 void TestPageSelection::losingTheSelectionShowsADefaultScheme()
@@ -540,7 +547,7 @@ void TestPageSelection::theDoorComesBackWithTheEndOfTheSearch()
     QVERIFY(page.hands.IsColumnEnabled());
     QVERIFY(page.hands.AreSettingsEnabled());
     QVERIFY(page.hands.Button("btnAlarm")->isChecked());
-    QCOMPARE(page.hands.VisibleCategories(), s_doorCategories);
+    QCOMPARE(page.hands.VisibleCategories(), DoorCategories());
     QVERIFY(page.hands.ClickCategory("btnNormal"));
     QVERIFY(page.hands.IsOpenShown());
 }
@@ -748,15 +755,16 @@ void TestPageSelection::separatorsDoNotPileUp()
 
 void TestPageSelection::theCheckedCategoryIsFollowedByItsContent()
 {
+    const QStringList categories = DoorCategories();
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    for (const QString& checked : s_doorCategories) {
+    for (const QString& checked : categories) {
         QVERIFY(page.hands.ClickCategory(checked.toLatin1().constData()));
         page.hands.Widget("wndOption")->layout()->activate();
         const QRect content = page.hands.Widget("wndContainer")->geometry();
         bool bAbove = true;
-        for (const QString& name : s_doorCategories) {
+        for (const QString& name : categories) {
             const QRect button = page.hands.Widget(name.toLatin1().constData())->geometry();
             QCOMPARE(button.height(), 40);
             QCOMPARE(button.bottom() < content.top(), bAbove);
