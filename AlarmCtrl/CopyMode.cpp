@@ -27,6 +27,7 @@ std::optional<QString> CopyMode::SourceKey(const DeviceTreeNode& node,
         if (manager.GetChannel(node.iId, channel) != 0 || !accepted.Contains(channel.iChannelType))
             return std::nullopt;
         source.iChannelId = channel.iChannelId;
+        source.iChannelOwnerId = channel.iDeviceId;
     }
     return pMakeKey(source);
 }

@@ -22,8 +22,9 @@ struct CopyMode
     struct Source
     {
         int64_t iNodeId = -1;
-        int64_t iDeviceId = -1;  ///< the device that owns the node, or the node itself
-        int64_t iChannelId = -1; ///< the channel record's own id; -1 where no channel was asked for
+        int64_t iDeviceId = -1;       ///< the device that owns the node, or the node itself
+        int64_t iChannelId = -1;      ///< the channel record's own id; -1 where no channel was asked for
+        int64_t iChannelOwnerId = -1; ///< the device in that record; differs where a device shares its id
     };
 
     int32_t iMode;

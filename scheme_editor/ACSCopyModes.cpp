@@ -10,13 +10,13 @@ using VantaModel::NodeKindDevice;
 
 QString DoorOfDevice(const CopyMode::Source& source)
 {
-    return EventSource::Door(source.iDeviceId, source.iChannelId);
+    return EventSource::Door(source.iChannelOwnerId, source.iChannelId);
 }
 
 QString AlarmInputOfDevice(const CopyMode::Source& source)
 {
     // The popup lists access-control devices only, so the key always says so.
-    return EventSource::AlarmInput(source.iDeviceId, source.iNodeId, true);
+    return EventSource::AlarmInput(source.iChannelOwnerId, source.iNodeId, true);
 }
 
 } // namespace

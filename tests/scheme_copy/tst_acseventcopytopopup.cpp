@@ -13,6 +13,7 @@
 
 using TestSite::ChannelOf;
 using TestSite::DeviceOfType;
+using VantaModel::NodeKindChannel;
 using VantaModel::NodeKindDevice;
 
 namespace {
@@ -68,6 +69,27 @@ Site TwoControllers()
     return site;
 }
 
+/// A host that gave the number 7 to a device and to a channel of device 5.
+class SharedNumberManager : public SiteDeviceManager
+{
+public:
+    explicit SharedNumberManager(int32_t iKind)
+        : m_iKind(iKind)
+    {
+    }
+    int32_t GetChannel(int64_t iChannelId, VantaLogic::ChannelInfo& out) const override
+    {
+        out.iChannelId = 7;
+        out.iDeviceId = 5;
+        out.iChannelType = m_iKind;
+        return iChannelId == 7 ? 0 : -1;
+    }
+    bool IsDeviceEnabled(int64_t) const override { return true; }
+
+private:
+    int32_t m_iKind;
+};
+
 QStringList Lines(std::initializer_list<const char*> lines)
 {
     QStringList texts;
@@ -93,6 +115,7 @@ private Q_SLOTS:
     void tickedDoorsYieldDoorKeys();
     void tickedAlarmInputsYieldKeysWithTheFlagOne();
     void aDeviceNodeAloneYieldsNoKey();
+    void theOwnerInAKeyIsThatOfTheChannelsRecord();
     void tickingADeviceYieldsItsDoors();
     void okWithNothingTickedClosesWithoutASignal();
     void cancelAndEscapeCloseWithoutASignal();
@@ -206,6 +229,22 @@ void TestACSEventCopyToPopup::aDeviceNodeAloneYieldsNoKey()
     const SiteDeviceManager manager(TwoControllers());
     for (const CopyMode& mode : ACSCopy::Modes())
         QVERIFY(!mode.SourceKey({1, NodeKindDevice}, manager));
+}
+
+void TestACSEventCopyToPopup::theOwnerInAKeyIsThatOfTheChannelsRecord()
+{
+    const auto key = [](int iMode, int iNodeKind, int32_t iChannelKind) {
+        return CopyMode::Find(ACSCopy::Modes(), iMode)
+            ->SourceKey({7, iNodeKind}, SharedNumberManager(iChannelKind))
+            .value_or(QStringLiteral("none"));
+    };
+    const int32_t input = VantaLogic::ChannelTypeAlarmInput;
+    const int32_t door = VantaLogic::ChannelTypeDoor;
+    QCOMPARE(key(ACSCopy::AlarmInput, NodeKindChannel, input), QStringLiteral("5$3$1$7"));
+    QCOMPARE(key(ACSCopy::AlarmInput, NodeKindDevice, input), QStringLiteral("5$3$1$7"));
+    QCOMPARE(key(ACSCopy::AlarmInput, NodeKindChannel, door), QStringLiteral("none"));
+    QCOMPARE(key(ACSCopy::Door, NodeKindChannel, door), QStringLiteral("5$1$0$7"));
+    QCOMPARE(key(ACSCopy::Door, NodeKindDevice, door), QStringLiteral("none"));
 }
 
 void TestACSEventCopyToPopup::tickingADeviceYieldsItsDoors()
