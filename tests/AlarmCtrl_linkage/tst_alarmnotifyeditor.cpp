@@ -1,6 +1,7 @@
 #include "AlarmCtrl/QAlarmNotifyEditor.h"
 #include "platform/LXGUI/LXSwitchButton.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMetaMethod>
@@ -43,6 +44,7 @@ class TestAlarmNotifyEditor : public QObject
 
 private Q_SLOTS:
     void theFormHasItsStatedNamesTextsAndSizes();
+    void theSwitchesAreNamedByTheirLabels();
     void whatWasSetIsReadBack();
     void theSwitchesStandInTheOrderSoundMapMail();
     void aPersonsClickIsReadBack();
@@ -75,6 +77,15 @@ void TestAlarmNotifyEditor::theFormHasItsStatedNamesTextsAndSizes()
         QCOMPARE(button->minimumSize(), QSize(36, 0));
         QCOMPARE(button->maximumSize(), QSize(36, 16777215));
         QCOMPARE(grid->itemAtPosition(row, 2)->spacerItem()->sizeHint(), QSize(40, 20));
+    }
+}
+
+void TestAlarmNotifyEditor::theSwitchesAreNamedByTheirLabels()
+{
+    const QAlarmNotifyEditor editor;
+    for (const Row& row : s_rows) {
+        QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(Switch(editor, row.button));
+        QCOMPARE(shown->text(QAccessible::Name), QLatin1String(row.text));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "platform/LXGUI/LXSwitchButton.h"
 #include "tests/AlarmCtrl_linkage/SiteHost.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QIntValidator>
@@ -118,6 +119,7 @@ private Q_SLOTS:
     void theFormHasItsStatedNamesTextsAndSizes();
     void theLayoutsHaveTheirStatedSpacingsAndMargins();
     void theToolTipTellsTheBounds();
+    void theControlsAreNamedByTheirLabels();
     void aFreshEditorHasADisabledEmptyPanel();
     void theTreeOffersOnlyOutputsOfDevicesThatAreNotVirtual();
     void theSlotsAreKnownByTheirSignatures();
@@ -243,6 +245,16 @@ void TestAlarmOutEditor::theToolTipTellsTheBounds()
     QVERIFY(validator != nullptr);
     QCOMPARE(validator->bottom(), 5);
     QCOMPARE(validator->top(), 43200);
+}
+
+void TestAlarmOutEditor::theControlsAreNamedByTheirLabels()
+{
+    Desk desk;
+    const auto name = [](QWidget* pWidget) {
+        return QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Name);
+    };
+    QCOMPARE(name(desk.toggle), QStringLiteral("Auto Open:"));
+    QCOMPARE(name(desk.time), QStringLiteral("Last Time:"));
 }
 
 void TestAlarmOutEditor::aFreshEditorHasADisabledEmptyPanel()
