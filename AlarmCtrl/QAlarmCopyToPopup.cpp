@@ -51,12 +51,11 @@ void QAlarmCopyToPopup::OnOk()
             Q_EMIT SignalCopyTo(listKeys);
     }
     if (guard) {
-        done(Accepted);
+        accept();
     }
 }
 
 void QAlarmCopyToPopup::OnCancel()
 {
-    // Not close(): that asks reject(), which is where the cancel signal comes from.
-    done(Rejected);
+    close();
 }

@@ -54,12 +54,11 @@ void ACSEventCopyToPopup::OnOk()
             Q_EMIT SignalCopyTo(listKeys);
     }
     if (guard) {
-        done(Accepted);
+        accept();
     }
 }
 
 void ACSEventCopyToPopup::OnCancel()
 {
-    // Not close(): that asks reject(), which is where the cancel signal comes from.
-    done(Rejected);
+    close();
 }
