@@ -11,6 +11,7 @@
 #include <QLibrary>
 #include <QPluginLoader>
 
+#include <algorithm>
 #include <exception>
 
 struct PluginLoader::Plugin
@@ -36,7 +37,7 @@ PluginLoader::~PluginLoader()
 void PluginLoader::Load(const QStringList& directories, const LXPluginAPI::ManagerList& managers,
                         UserRole role)
 {
-    std::vector<std::unique_ptr<Plugin>> found;
+    Plugins found;
     for (const QString& strDirectory : directories) {
         if (strDirectory.isEmpty()) {
             continue; // would be read as the working directory
@@ -49,16 +50,26 @@ void PluginLoader::Load(const QStringList& directories, const LXPluginAPI::Manag
             }
             auto plugin = std::make_unique<Plugin>();
             plugin->strFile = file.absoluteFilePath();
+            bool bForRole = true;
             QString strReason = Guarded([this, &plugin] { return LoadRoot(*plugin); });
-            if (strReason.isEmpty()) {
-                for (const auto& other : found) {
-                    if (other->strKey == plugin->strKey) {
-                        strReason = tr("the module key \"%1\" is taken by %2")
-                                        .arg(plugin->strKey, QFileInfo(other->strFile).fileName());
-                    }
-                }
+            const Plugin* const pTwin = strReason.isEmpty() ? Twin(*plugin, found) : nullptr;
+            if (pTwin != nullptr && pTwin->root == plugin->root) {
+                // The same library under a second name has the same root object, which lives on.
+                CLIENT_LOG(lxl::LogInfo, "module file %s is %s under another name",
+                           qUtf8Printable(plugin->strFile), qUtf8Printable(pTwin->strFile));
+                continue;
             }
-            if (strReason.isEmpty() && !UserRoles::MayUseModule(role, plugin->pApi->GetRightName())) {
+            if (pTwin != nullptr) {
+                strReason = tr("the module key \"%1\" is taken by %2")
+                                .arg(plugin->strKey, QFileInfo(pTwin->strFile).fileName());
+            }
+            if (strReason.isEmpty()) {
+                strReason = Guarded([&plugin, &bForRole, role] {
+                    bForRole = UserRoles::MayUseModule(role, plugin->pApi->GetRightName());
+                    return QString();
+                });
+            }
+            if (!bForRole) {
                 CLIENT_LOG(lxl::LogInfo, "module %s is not for this role", qUtf8Printable(plugin->strKey));
                 TakeDown(*plugin);
                 continue;
@@ -84,6 +95,14 @@ void PluginLoader::Load(const QStringList& directories, const LXPluginAPI::Manag
             Report(QFileInfo(plugin->strFile).fileName(), strReason);
         }
     }
+}
+
+const PluginLoader::Plugin* PluginLoader::Twin(const Plugin& plugin, const Plugins& others)
+{
+    const auto twin = std::find_if(others.cbegin(), others.cend(), [&plugin](const auto& other) {
+        return other->strKey == plugin.strKey || other->root == plugin.root;
+    });
+    return twin == others.cend() ? nullptr : twin->get();
 }
 
 void PluginLoader::Unload()

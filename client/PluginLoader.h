@@ -73,7 +73,10 @@ public:
 
 private:
     struct Plugin;
+    using Plugins = std::vector<std::unique_ptr<Plugin>>;
     using Step = std::function<QString()>;
+    /// The one of the others that has this module's key, or is the same module; null when there is none.
+    static const Plugin* Twin(const Plugin& plugin, const Plugins& others);
     QString Guarded(const Step& step) const;
     void Report(const QString& strName, const QString& strReason);
     QString LoadRoot(Plugin& plugin) const;
@@ -81,6 +84,6 @@ private:
     QString BringUpUi(Plugin& plugin) const;
     void TakeDown(Plugin& plugin) const;
 
-    std::vector<std::unique_ptr<Plugin>> m_plugins;
+    Plugins m_plugins;
     std::vector<PluginProblem> m_problems;
 };

@@ -7,6 +7,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <filesystem>
+#include <system_error>
+
 class TestPluginLoader : public QObject
 {
     Q_OBJECT
@@ -35,6 +38,8 @@ private Q_SLOTS:
     void otherFilesAreNotLookedAt();
     void aBrokenModuleDoesNotStopTheOthers();
     void twoModulesWithOneKeyAreTheFirstOnly();
+    void aSecondNameOfAFileIsNoSecondModule_data();
+    void aSecondNameOfAFileIsNoSecondModule();
     void aModuleWithoutAPageIsReportedWhenItIsOpened();
     void anOperatorSeesNoModuleForAdministrators();
     void aMissingDirectoryHoldsNoModules();
@@ -181,6 +186,8 @@ void TestPluginLoader::aModuleThatFailsIsReportedByNameAndReason_data()
     QTest::newRow("refuses to be loaded") << QStringLiteral("refuses_load") << QStringLiteral("loaded");
     QTest::newRow("refuses to start") << QStringLiteral("refuses_start") << QStringLiteral("start");
     QTest::newRow("throws") << QStringLiteral("throws") << QStringLiteral("no luck today");
+    QTest::newRow("throws when asked for its right")
+        << QStringLiteral("throws_right") << QStringLiteral("no right today");
     QTest::newRow("no key") << QStringLiteral("no_key") << QStringLiteral("key");
 }
 
@@ -203,6 +210,7 @@ void TestPluginLoader::aModuleThatFailsIsTakenDownAgain_data()
     QTest::newRow("refuses to be loaded") << QStringLiteral("refuses_load") << false;
     QTest::newRow("refuses to start") << QStringLiteral("refuses_start") << true;
     QTest::newRow("throws while initialising") << QStringLiteral("throws") << true;
+    QTest::newRow("throws when asked for its right") << QStringLiteral("throws_right") << false;
     QTest::newRow("no key") << QStringLiteral("no_key") << false;
 }
 
@@ -274,6 +282,36 @@ void TestPluginLoader::twoModulesWithOneKeyAreTheFirstOnly()
     QCOMPARE(int(m_loader->Problems().size()), 1);
     QCOMPARE(m_loader->Problems().front().strName, TestModules::FileName(QStringLiteral("twin")));
     QVERIFY(TestModules::TakeCalls().contains(QStringLiteral("twin:deleted")));
+}
+
+void TestPluginLoader::aSecondNameOfAFileIsNoSecondModule_data()
+{
+    QTest::addColumn<bool>("bSymbolic");
+    QTest::newRow("symbolic link") << true;
+    QTest::newRow("hard link") << false;
+}
+
+void TestPluginLoader::aSecondNameOfAFileIsNoSecondModule()
+{
+    QFETCH(bool, bSymbolic);
+    Install(QStringLiteral("good"));
+    const std::filesystem::path modules(Modules().toStdString());
+    const std::filesystem::path file = modules / TestModules::FileName(QStringLiteral("good")).toStdString();
+    const std::filesystem::path name = modules / TestModules::FileName(QStringLiteral("later")).toStdString();
+    std::error_code error;
+    if (bSymbolic) {
+        std::filesystem::create_symlink(file, name, error);
+    } else {
+        std::filesystem::create_hard_link(file, name, error);
+    }
+    QVERIFY2(!error, error.message().c_str());
+    Load();
+    QCOMPARE(m_loader->Count(), 1);
+    QVERIFY(m_loader->Problems().empty());
+    QVERIFY(m_loader->Page(0) != nullptr);
+    QVERIFY(!TestModules::TakeCalls().contains(QStringLiteral("good:deleted")));
+    m_loader->Unload();
+    QCOMPARE(TestModules::TakeCalls().count(QStringLiteral("good:deleted")), 1);
 }
 
 void TestPluginLoader::aModuleWithoutAPageIsReportedWhenItIsOpened()

@@ -154,6 +154,8 @@ public:
     {
 #if defined(TEST_ADMINISTRATORS)
         return "Administrators";
+#elif defined(TEST_THROWS_RIGHT)
+        throw std::logic_error("no right today");
 #else
         return IPluginAPI::GetRightName();
 #endif
