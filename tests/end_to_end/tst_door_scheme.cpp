@@ -14,6 +14,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QProcess>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -54,6 +55,8 @@ private Q_SLOTS:
     void aFileThatIsNoDatabaseIsLeftAlone();
     void aRemovedDeviceReachesNoSave();
     void thePageThatWasOpenComesBack();
+    void aPageBehindTheHomePageComesBackToo();
+    void aPageThatWasClosedStaysClosed();
 
 private:
     void StartOnPage(UserRole role = UserRole::Administrator)
@@ -356,6 +359,30 @@ void TestDoorScheme::thePageThatWasOpenComesBack()
     QVERIFY(m_driver->Start());
     QVERIFY(m_driver->Page() != nullptr);
     QVERIFY(m_driver->Page()->isVisible());
+}
+
+void TestDoorScheme::aPageBehindTheHomePageComesBackToo()
+{
+    StartOnPage();
+    auto* const pTabs = m_driver->Client().Window()->findChild<QTabWidget*>(QStringLiteral("tabPages"));
+    pTabs->setCurrentIndex(0);
+    QVERIFY(!m_driver->Page()->isVisible());
+    m_driver->Client().Window()->close();
+    m_driver->End();
+    m_driver = std::make_unique<ClientDriver>(m_data->path());
+    QVERIFY(m_driver->Start());
+    QVERIFY(m_driver->Page() != nullptr);
+}
+
+void TestDoorScheme::aPageThatWasClosedStaysClosed()
+{
+    StartOnPage();
+    m_driver->Client().Window()->ClosePage(1);
+    m_driver->Client().Window()->close();
+    m_driver->End();
+    m_driver = std::make_unique<ClientDriver>(m_data->path());
+    QVERIFY(m_driver->Start());
+    QVERIFY(m_driver->Page() == nullptr);
 }
 
 QTEST_MAIN(TestDoorScheme)

@@ -1,20 +1,17 @@
 #include "ClientDriver.h"
+#include "CopyPopupHand.h"
 #include "Hand.h"
+#include "OutputsHand.h"
 #include "SchemeFile.h"
 
-#include "platform/LXGUI/LXSwitchButton.h"
 #include "platform/SiteLibrary/SiteFile.h"
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
 #include "platform/SystemLibrary/QCommon.h"
 #include "platform/VantaLogic/Records.h"
 
-#include <QApplication>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
-#include <QPointer>
 #include <QProcess>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -51,29 +48,32 @@ class Warnings
 public:
     Warnings()
     {
-        s_warnings.clear();
+        List().clear();
         m_previous = qInstallMessageHandler(&Warnings::Take);
     }
     ~Warnings() { qInstallMessageHandler(m_previous); }
     Warnings(const Warnings&) = delete;
     Warnings& operator=(const Warnings&) = delete;
 
-    static QStringList Texts() { return s_warnings; }
+    static QStringList Texts() { return List(); }
 
 private:
     static void Take(QtMsgType type, const QMessageLogContext&, const QString& strText)
     {
         if (type != QtDebugMsg && type != QtInfoMsg &&
             !strText.startsWith(QLatin1String("This plugin does not support "))) {
-            s_warnings.append(strText);
+            List().append(strText);
         }
     }
 
-    static QStringList s_warnings;
+    static QStringList& List()
+    {
+        static QStringList warnings;
+        return warnings;
+    }
+
     QtMessageHandler m_previous = nullptr;
 };
-
-QStringList Warnings::s_warnings;
 
 } // namespace
 
@@ -115,25 +115,13 @@ private:
         QVERIFY(m_driver->ClickNode(door.iChannelId, Hand::KindChannel));
         QVERIFY2(m_driver->StatusText().contains(door.strName), qPrintable(m_driver->StatusText()));
     }
-    QWidget* OutputEditor() const
-    {
-        return m_driver->Page()->findChild<QWidget*>(QStringLiteral("QAlarmOutEditor"));
-    }
-    QTreeView* OutputTree() const
-    {
-        return OutputEditor()->findChild<QTreeView*>(QStringLiteral("treeDevices"));
-    }
-    QLineEdit* TimeEdit() const { return OutputEditor()->findChild<QLineEdit*>(QStringLiteral("edtTime")); }
+    OutputsHand Outputs() const { return OutputsHand(*m_driver); }
     /// Ticks a node in the popup of "Copy to" and confirms.
     void CopyTo(qint64 iGroup) const
     {
-        QVERIFY(m_driver->ClickButton("btnCopyTo"));
-        const QPointer<QWidget> popup(QApplication::activeModalWidget());
-        QVERIFY(!popup.isNull());
-        QVERIFY(Hand::ClickBox(popup->findChild<QTreeView*>(QStringLiteral("treeDevices")), iGroup,
-                               Hand::KindGroup));
-        QVERIFY(Hand::Click(popup->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)));
-        QTRY_VERIFY(popup.isNull());
+        const CopyPopupHand popup(*m_driver);
+        QVERIFY(popup.Tick(iGroup, Hand::KindGroup));
+        QVERIFY(popup.ClickOk());
     }
     /// The channels of a kind that the enabled controllers of these groups have.
     QVector<VantaLogic::ChannelInfo> ChannelsIn(const QList<qint64>& groups, int32_t iKind) const
@@ -249,12 +237,12 @@ void TestLargeSite::aSearchedDoorIsCopiedToItsWholeFloor()
         ChannelsIn({m_iFloor}, VantaLogic::ChannelTypeAlarmOutput).mid(0, 2);
     QCOMPARE(outputs.size(), 2);
     for (const VantaLogic::ChannelInfo& output : qAsConst(outputs)) {
-        QVERIFY(Search(OutputTree(), output.strName));
-        QVERIFY(Hand::ClickBox(OutputTree(), output.iChannelId, Hand::KindChannel));
-        QCOMPARE(TimeEdit()->text(), QStringLiteral("20"));
+        QVERIFY(Search(Outputs().Tree(), output.strName));
+        QVERIFY(Outputs().Tick(output.iChannelId));
+        QCOMPARE(Outputs().TimeEdit()->text(), QStringLiteral("20"));
     }
-    QVERIFY(Hand::Type(TimeEdit(), QStringLiteral("45")));
-    QVERIFY(Hand::Click(OutputEditor()->findChild<LXGUI::LXSwitchButton*>(QStringLiteral("btnAutoOpen"))));
+    QVERIFY(Hand::Type(Outputs().TimeEdit(), QStringLiteral("45")));
+    QVERIFY(Outputs().ClickAutoOpen());
     CopyTo(m_iFloor);
     QVERIFY(m_driver->ClickButton("btnSave"));
     m_driver->End();
@@ -282,10 +270,8 @@ void TestLargeSite::aSearchedDoorIsCopiedToItsWholeFloor()
     QVERIFY(m_driver->ClickEvent(m_strEvent));
     QVERIFY(m_driver->IsSwitchedOn("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnAlarmOut"));
-    QVERIFY(Hand::ClickRow(OutputTree(), outputs[1].iChannelId, Hand::KindChannel));
-    QCOMPARE(TimeEdit()->text(), QStringLiteral("45"));
-    QVERIFY(!m_driver->IsSwitchedOn("btnAutoOpen"));
-    QCOMPARE(Hand::CheckState(*OutputTree(), outputs[0].iChannelId, Hand::KindChannel), int(Qt::Checked));
+    QCOMPARE(Outputs().SettingsOf(outputs[1].iChannelId), QStringLiteral("45, stays"));
+    QVERIFY(Outputs().IsTicked(outputs[0].iChannelId));
 }
 
 void TestLargeSite::anAlarmInputIsCopiedToAWholeBuilding()

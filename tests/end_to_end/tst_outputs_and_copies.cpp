@@ -1,22 +1,19 @@
 #include "ClientDriver.h"
+#include "CopyPopupHand.h"
 #include "Hand.h"
+#include "OutputsHand.h"
 #include "SchemeFile.h"
 
 #include "client/SampleSite.h"
 #include "client/SiteSession.h"
-#include "platform/LXGUI/LXSwitchButton.h"
 #include "platform/SiteLibrary/SiteFile.h"
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
 #include "platform/SystemLibrary/QCommon.h"
 
 #include <QApplication>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -109,55 +106,8 @@ private:
         QVERIFY(m_driver->ClickButton("btnSave"));
         m_driver->End();
     }
-    QWidget* OutputEditor() const
-    {
-        return m_driver->Page()->findChild<QWidget*>(QStringLiteral("QAlarmOutEditor"));
-    }
-    QTreeView* OutputTree() const
-    {
-        return OutputEditor()->findChild<QTreeView*>(QStringLiteral("treeDevices"));
-    }
-    QLineEdit* TimeEdit() const { return OutputEditor()->findChild<QLineEdit*>(QStringLiteral("edtTime")); }
-    bool Ticks(qint64 iOutput) const { return Hand::ClickBox(OutputTree(), iOutput, Hand::KindChannel); }
-    bool IsTicked(qint64 iOutput) const
-    {
-        return Hand::CheckState(*OutputTree(), iOutput, Hand::KindChannel) == Qt::Checked;
-    }
-    /// "time, automatic opening" as the panel shows them after a click on the output.
-    QString Settings(qint64 iOutput) const
-    {
-        if (!Hand::ClickRow(OutputTree(), iOutput, Hand::KindChannel) || !TimeEdit()->isEnabled()) {
-            return {};
-        }
-        return TimeEdit()->text() + (m_driver->IsSwitchedOn("btnAutoOpen") ? QStringLiteral(", opens")
-                                                                           : QStringLiteral(", stays"));
-    }
+    OutputsHand Outputs() const { return OutputsHand(*m_driver); }
     SchemeFile File() const { return SchemeFile(m_driver->DatabasePath()); }
-
-    /// Opens "Copy to"; null when nothing came.
-    QWidget* OpenPopup() const
-    {
-        return m_driver->ClickButton("btnCopyTo") ? QApplication::activeModalWidget() : nullptr;
-    }
-    static bool Tick(const QWidget* pPopup, qint64 iId, int iKind)
-    {
-        return Hand::ClickBox(pPopup->findChild<QTreeView*>(QStringLiteral("treeDevices")), iId, iKind);
-    }
-    static void End(QWidget* pPopup, QDialogButtonBox::StandardButton button)
-    {
-        const QPointer<QWidget> popup(pPopup);
-        QVERIFY(Hand::Click(pPopup->findChild<QDialogButtonBox*>()->button(button)));
-        QTRY_VERIFY(popup.isNull()); // deletes itself
-    }
-    void CopyToDoors(const QList<qint64>& doors) const
-    {
-        QWidget* pPopup = OpenPopup();
-        QVERIFY(pPopup != nullptr);
-        for (const qint64 iDoor : doors) {
-            QVERIFY2(Tick(pPopup, iDoor, Hand::KindChannel), qPrintable(QString::number(iDoor)));
-        }
-        End(pPopup, QDialogButtonBox::Ok);
-    }
 
     QTreeWidgetItem* InputItem(const QString& strName) const
     {
@@ -211,39 +161,39 @@ void TestOutputsAndCopies::twoOutputsAreTickedSetSavedAndFoundAgain()
 {
     StartOnPage();
     OpenOutputs();
-    QVERIFY(!TimeEdit()->isEnabled());
-    QVERIFY(Ticks(LobbySiren));
-    QVERIFY(Ticks(OutdoorSiren));
-    QVERIFY(TimeEdit()->isEnabled());
-    QCOMPARE(TimeEdit()->text(), QStringLiteral("20"));
+    QVERIFY(!Outputs().TimeEdit()->isEnabled());
+    QVERIFY(Outputs().Tick(LobbySiren));
+    QVERIFY(Outputs().Tick(OutdoorSiren));
+    QVERIFY(Outputs().TimeEdit()->isEnabled());
+    QCOMPARE(Outputs().TimeEdit()->text(), QStringLiteral("20"));
     QVERIFY(m_driver->IsSwitchedOn("btnAutoOpen"));
-    QVERIFY(Hand::Type(TimeEdit(), QStringLiteral("45")));
-    QVERIFY(Hand::Click(OutputEditor()->findChild<LXGUI::LXSwitchButton*>(QStringLiteral("btnAutoOpen"))));
+    QVERIFY(Hand::Type(Outputs().TimeEdit(), QStringLiteral("45")));
+    QVERIFY(Outputs().ClickAutoOpen());
     QVERIFY(!m_driver->IsSwitchedOn("btnAutoOpen"));
-    QCOMPARE(Settings(Floodlight), QString()); // not picked: nothing to set
-    QCOMPARE(Settings(LobbySiren), QStringLiteral("20, opens"));
-    QCOMPARE(Settings(OutdoorSiren), QStringLiteral("45, stays"));
+    QCOMPARE(Outputs().SettingsOf(Floodlight), QString()); // not picked: nothing to set
+    QCOMPARE(Outputs().SettingsOf(LobbySiren), QStringLiteral("20, opens"));
+    QCOMPARE(Outputs().SettingsOf(OutdoorSiren), QStringLiteral("45, stays"));
     // What the virtual device has is not offered.
-    QCOMPARE(Hand::CheckState(*OutputTree(), ControlRoomOutputs, Hand::KindDevice), -1);
+    QCOMPARE(Hand::CheckState(*Outputs().Tree(), ControlRoomOutputs, Hand::KindDevice), -1);
     SaveAndEnd();
     const QStringList outputs{QStringLiteral("100107$3$0$0|1|20"), QStringLiteral("100604$3$0$0|0|45")};
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType), outputs);
 
     StartOnPage();
     OpenOutputs();
-    QVERIFY(IsTicked(LobbySiren));
-    QVERIFY(IsTicked(OutdoorSiren));
-    QVERIFY(!IsTicked(Floodlight));
-    QCOMPARE(Hand::CheckState(*OutputTree(), EntranceController, Hand::KindDevice),
+    QVERIFY(Outputs().IsTicked(LobbySiren));
+    QVERIFY(Outputs().IsTicked(OutdoorSiren));
+    QVERIFY(!Outputs().IsTicked(Floodlight));
+    QCOMPARE(Hand::CheckState(*Outputs().Tree(), EntranceController, Hand::KindDevice),
              int(Qt::PartiallyChecked));
-    QCOMPARE(Settings(OutdoorSiren), QStringLiteral("45, stays"));
-    QCOMPARE(Settings(LobbySiren), QStringLiteral("20, opens"));
+    QCOMPARE(Outputs().SettingsOf(OutdoorSiren), QStringLiteral("45, stays"));
+    QCOMPARE(Outputs().SettingsOf(LobbySiren), QStringLiteral("20, opens"));
     // Another event of the door, and another door, drive nothing.
     QVERIFY(m_driver->ClickEvent(m_strOtherEvent));
-    QVERIFY(!IsTicked(LobbySiren));
-    QVERIFY(!TimeEdit()->isEnabled());
+    QVERIFY(!Outputs().IsTicked(LobbySiren));
+    QVERIFY(!Outputs().TimeEdit()->isEnabled());
     OpenOutputs(Turnstile);
-    QVERIFY(!IsTicked(OutdoorSiren));
+    QVERIFY(!Outputs().IsTicked(OutdoorSiren));
     SaveAndEnd();
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType), outputs);
     QCOMPARE(File().Rows(QStringLiteral("select count(*) from AlarmLinkAlarmOutInfo")),
@@ -254,15 +204,15 @@ void TestOutputsAndCopies::anOutputThatIsUntickedIsGoneAfterSave()
 {
     StartOnPage();
     OpenOutputs();
-    QVERIFY(Hand::ClickBox(OutputTree(), EntranceController, Hand::KindDevice)); // both of its outputs
-    QVERIFY(Ticks(OutdoorSiren));
+    QVERIFY(Hand::ClickBox(Outputs().Tree(), EntranceController, Hand::KindDevice)); // both of its outputs
+    QVERIFY(Outputs().Tick(OutdoorSiren));
     SaveAndEnd();
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType).size(), 3);
     StartOnPage();
     OpenOutputs();
-    QVERIFY(Ticks(Floodlight));
-    QVERIFY(!IsTicked(Floodlight));
-    QVERIFY(!TimeEdit()->isEnabled());
+    QVERIFY(Outputs().Tick(Floodlight));
+    QVERIFY(!Outputs().IsTicked(Floodlight));
+    QVERIFY(!Outputs().TimeEdit()->isEnabled());
     SaveAndEnd();
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType),
              (QStringList{QStringLiteral("100107$3$0$0|1|20"), QStringLiteral("100604$3$0$0|1|20")}));
@@ -279,8 +229,8 @@ void TestOutputsAndCopies::anOfflineDeviceLosesNoLinkByBeingLookedAt()
              qPrintable(error.Text()));
     StartOnPage();
     OpenOutputs();
-    QVERIFY(Ticks(OutdoorSiren)); // can be configured although nobody can reach it now
-    QVERIFY(Hand::Type(TimeEdit(), QStringLiteral("45")));
+    QVERIFY(Outputs().Tick(OutdoorSiren)); // can be configured although nobody can reach it now
+    QVERIFY(Hand::Type(Outputs().TimeEdit(), QStringLiteral("45")));
     SaveAndEnd();
     const QStringList outputs{QStringLiteral("100604$3$0$0|1|45")};
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType), outputs);
@@ -291,14 +241,14 @@ void TestOutputsAndCopies::anOfflineDeviceLosesNoLinkByBeingLookedAt()
     QCOMPARE(devices.GetDevice(IntrusionPanel, panel), 0);
     QVERIFY(!panel.bOnline);
     OpenOutputs();
-    QCOMPARE(Settings(OutdoorSiren), QStringLiteral("45, opens"));
+    QCOMPARE(Outputs().SettingsOf(OutdoorSiren), QStringLiteral("45, opens"));
     QVERIFY(m_driver->ClickEvent(m_strOtherEvent));
     QVERIFY(m_driver->ClickEvent(m_strEvent));
     // It comes and goes while somebody looks, and an output beside it is picked.
     QVERIFY(devices.SetDeviceOnline(IntrusionPanel, true));
     QVERIFY(devices.SetDeviceOnline(IntrusionPanel, false));
-    QVERIFY(Ticks(LobbySiren));
-    QVERIFY(IsTicked(OutdoorSiren));
+    QVERIFY(Outputs().Tick(LobbySiren));
+    QVERIFY(Outputs().IsTicked(OutdoorSiren));
     QVERIFY(m_driver->ClickButton("btnNotify"));
     SaveAndEnd();
     QCOMPARE(File().Outputs(DoorSource(MainEntrance), m_iType),
@@ -318,25 +268,23 @@ void TestOutputsAndCopies::aDoorsSchemesReachElevenOtherDoors()
     QVERIFY(m_driver->ClickEvent(strTampered));
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     OpenOutputs();
-    QVERIFY(Ticks(LobbySiren));
-    QVERIFY(Hand::Type(TimeEdit(), QStringLiteral("45")));
+    QVERIFY(Outputs().Tick(LobbySiren));
+    QVERIFY(Hand::Type(Outputs().TimeEdit(), QStringLiteral("45")));
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnNotify"));
     QVERIFY(m_driver->ClickButton("btnAlarmSound"));
 
-    QWidget* pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
+    const CopyPopupHand popup(*m_driver);
+    QVERIFY(popup.IsOpen());
     for (const qint64 iDoor :
          {Turnstile, DeliveryDoor, BicycleStore, OfficeNorth, OfficeSouth, MeetingRooms}) {
-        QVERIFY2(Tick(pPopup, iDoor, Hand::KindChannel), qPrintable(QString::number(iDoor)));
+        QVERIFY2(popup.Tick(iDoor, Hand::KindChannel), qPrintable(QString::number(iDoor)));
     }
-    QVERIFY(Tick(pPopup, ServerController, Hand::KindDevice));
-    QVERIFY(Tick(pPopup, WarehouseController, Hand::KindDevice));
+    QVERIFY(popup.Tick(ServerController, Hand::KindDevice));
+    QVERIFY(popup.Tick(WarehouseController, Hand::KindDevice));
     // Alarm panels and cameras are not offered.
-    QCOMPARE(Hand::CheckState(*pPopup->findChild<QTreeView*>(QStringLiteral("treeDevices")), IntrusionPanel,
-                              Hand::KindDevice),
-             -1);
-    End(pPopup, QDialogButtonBox::Ok);
+    QCOMPARE(Hand::CheckState(*popup.Tree(), IntrusionPanel, Hand::KindDevice), -1);
+    QVERIFY(popup.ClickOk());
     QVERIFY(!QApplication::activeModalWidget());
 
     const QList<qint64> targets{Turnstile, DeliveryDoor, BicycleStore, OfficeNorth, OfficeSouth, MeetingRooms,
@@ -374,27 +322,31 @@ void TestOutputsAndCopies::aDoorsSchemesReachElevenOtherDoors()
     StartOnPage();
     verifyMarks();
     OpenOutputs(OfficeSouth);
-    QCOMPARE(Settings(LobbySiren), QStringLiteral("45, opens"));
+    QCOMPARE(Outputs().SettingsOf(LobbySiren), QStringLiteral("45, opens"));
 }
 
 void TestOutputsAndCopies::theEditedDoorIsNoTargetOfItself()
 {
     StartOnPage();
     OpenOutputs();
-    QVERIFY(Ticks(Floodlight));
+    QVERIFY(Outputs().Tick(Floodlight));
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnSave"));
     const QStringList before = File().Content();
-    CopyToDoors({MainEntrance});
+    {
+        const CopyPopupHand popup(*m_driver);
+        QVERIFY(popup.Tick(MainEntrance, Hand::KindChannel));
+        QVERIFY(popup.ClickOk());
+    }
     QVERIFY(m_driver->HasMark(m_strEvent));
     QVERIFY(m_driver->ClickButton("btnSave"));
     QCOMPARE(File().Content(), before);
     // Neither among others: the whole controller is ticked.
-    QWidget* pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
-    QVERIFY(Tick(pPopup, EntranceController, Hand::KindDevice));
-    End(pPopup, QDialogButtonBox::Ok);
-    QVERIFY(IsTicked(Floodlight));
+    const CopyPopupHand popup(*m_driver);
+    QVERIFY(popup.IsOpen());
+    QVERIFY(popup.Tick(EntranceController, Hand::KindDevice));
+    QVERIFY(popup.ClickOk());
+    QVERIFY(Outputs().IsTicked(Floodlight));
     SaveAndEnd();
     for (const qint64 iDoor : {MainEntrance, Turnstile, DeliveryDoor, BicycleStore}) {
         QCOMPARE(File().Flags(DoorSource(iDoor), m_iType), QStringLiteral("1|0|0"));
@@ -407,13 +359,17 @@ void TestOutputsAndCopies::aDefaultDoorClearsTheDoorsThatAreTicked()
 {
     StartOnPage();
     OpenOutputs(OfficeNorth);
-    QVERIFY(Ticks(Floodlight));
+    QVERIFY(Outputs().Tick(Floodlight));
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     ChooseDoor(OfficeSouth);
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnSave"));
     ChooseDoor(MainEntrance);
-    CopyToDoors({OfficeNorth});
+    {
+        const CopyPopupHand popup(*m_driver);
+        QVERIFY(popup.Tick(OfficeNorth, Hand::KindChannel));
+        QVERIFY(popup.ClickOk());
+    }
     QVERIFY(m_driver->ClickNode(OfficeNorth, Hand::KindChannel));
     QVERIFY(!m_driver->HasMark(m_strEvent));
     ChooseDoor(OfficeSouth);
@@ -433,16 +389,16 @@ void TestOutputsAndCopies::anAlarmInputsSchemeReachesOtherInputs()
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnAlarmSound"));
     QVERIFY(m_driver->ClickButton("btnAlarmOut"));
-    QVERIFY(Ticks(OutdoorSiren));
+    QVERIFY(Outputs().Tick(OutdoorSiren));
     QVERIFY(HasInputMark(QStringLiteral("Reception panic button")));
     QVERIFY(!HasInputMark(QStringLiteral("Glass break, lobby")));
 
-    QWidget* pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
-    QVERIFY(!Tick(pPopup, MainEntrance, Hand::KindChannel)); // doors are not offered
-    QVERIFY(Tick(pPopup, GlassBreak, Hand::KindChannel));
-    QVERIFY(Tick(pPopup, ServerController, Hand::KindDevice));
-    End(pPopup, QDialogButtonBox::Ok);
+    const CopyPopupHand popup(*m_driver);
+    QVERIFY(popup.IsOpen());
+    QVERIFY(!popup.Tick(MainEntrance, Hand::KindChannel)); // doors are not offered
+    QVERIFY(popup.Tick(GlassBreak, Hand::KindChannel));
+    QVERIFY(popup.Tick(ServerController, Hand::KindDevice));
+    QVERIFY(popup.ClickOk());
     QVERIFY(HasInputMark(QStringLiteral("Glass break, lobby")));
     const auto verifyServerMarks = [this] {
         QVERIFY(m_driver->ClickNode(ServerController, Hand::KindDevice));
@@ -466,7 +422,7 @@ void TestOutputsAndCopies::anAlarmInputsSchemeReachesOtherInputs()
     QVERIFY(m_driver->IsSwitchedOn("btnOpenStatus"));
     QVERIFY(m_driver->IsSwitchedOn("btnAlarmSound"));
     QVERIFY(m_driver->ClickButton("btnAlarmOut"));
-    QVERIFY(IsTicked(OutdoorSiren));
+    QVERIFY(Outputs().IsTicked(OutdoorSiren));
 }
 
 void TestOutputsAndCopies::aPopupThatIsCancelledCopiesNothing()
@@ -476,24 +432,19 @@ void TestOutputsAndCopies::aPopupThatIsCancelledCopiesNothing()
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
     QVERIFY(m_driver->ClickButton("btnSave"));
     const QStringList before = File().Content();
-    QWidget* pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
+    const CopyPopupHand first(*m_driver);
+    QVERIFY(first.IsOpen());
     QVERIFY(!m_driver->ClickNode(Turnstile, Hand::KindChannel)); // nobody reaches the page behind it
-    QVERIFY(Tick(pPopup, Turnstile, Hand::KindChannel));
-    End(pPopup, QDialogButtonBox::Cancel);
-    pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
-    // The next one knows nothing of it.
-    QCOMPARE(Hand::CheckState(*pPopup->findChild<QTreeView*>(QStringLiteral("treeDevices")), Turnstile,
-                              Hand::KindChannel),
-             int(Qt::Unchecked));
-    QVERIFY(Tick(pPopup, Turnstile, Hand::KindChannel));
-    const QPointer<QWidget> popup(pPopup);
-    QTest::keyClick(pPopup, Qt::Key_Escape);
-    QTRY_VERIFY(popup.isNull());
-    pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
-    End(pPopup, QDialogButtonBox::Ok); // nothing ticked
+    QVERIFY(first.Tick(Turnstile, Hand::KindChannel));
+    QVERIFY(first.ClickCancel());
+    const CopyPopupHand second(*m_driver);
+    QVERIFY(second.IsOpen());
+    // It knows nothing of the first.
+    QCOMPARE(Hand::CheckState(*second.Tree(), Turnstile, Hand::KindChannel), int(Qt::Unchecked));
+    QVERIFY(second.Tick(Turnstile, Hand::KindChannel));
+    QVERIFY(second.PressEscape());
+    const CopyPopupHand third(*m_driver);
+    QVERIFY(third.ClickOk()); // nothing ticked
     SaveAndEnd();
     QCOMPARE(File().Content(), before);
 }
@@ -503,12 +454,12 @@ void TestOutputsAndCopies::aDeviceThatGoesWhileThePopupIsOpenGetsNothing()
     StartOnPage();
     ChooseDoor(MainEntrance);
     QVERIFY(m_driver->ClickButton("btnOpenStatus"));
-    QWidget* pPopup = OpenPopup();
-    QVERIFY(pPopup != nullptr);
-    QVERIFY(Tick(pPopup, WarehouseController, Hand::KindDevice));
-    QVERIFY(Tick(pPopup, OfficeNorth, Hand::KindChannel));
+    const CopyPopupHand popup(*m_driver);
+    QVERIFY(popup.IsOpen());
+    QVERIFY(popup.Tick(WarehouseController, Hand::KindDevice));
+    QVERIFY(popup.Tick(OfficeNorth, Hand::KindChannel));
     QVERIFY(m_driver->Client().Site()->Devices().RemoveDevice(WarehouseController));
-    End(pPopup, QDialogButtonBox::Ok);
+    QVERIFY(popup.ClickOk());
     SaveAndEnd();
     QCOMPARE(File().Flags(DoorSource(OfficeNorth), m_iType), QStringLiteral("1|0|0"));
     QCOMPARE(File().Rows(QStringLiteral("select * from AlarmUniqueID where strEventSource like '1004$%'")),

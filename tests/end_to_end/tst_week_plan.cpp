@@ -1,19 +1,17 @@
 #include "ClientDriver.h"
 #include "Hand.h"
 #include "SchemeFile.h"
+#include "WeekPlanHand.h"
 
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
 #include "platform/SystemLibrary/QCommon.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
-#include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QImage>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimeEdit>
 #include <QToolTip>
 #include <QtTest>
 
@@ -30,21 +28,18 @@ constexpr int Wednesday = 3;
 constexpr int Thursday = 4;
 constexpr int Friday = 5;
 constexpr int Saturday = 6;
-constexpr int Days = 7;
-
-constexpr int Quarters = 96;
-constexpr int QuarterHour = 900;
-constexpr int LastSecond = 86399;
+constexpr int Days = WeekPlanHand::Days;
 
 QString WholeDay()
 {
     return QStringLiteral("0:00-24:00");
 }
 
-QString ClockTime(int iQuarter)
-{
-    return QStringLiteral("%1:%2").arg(iQuarter / 4).arg(iQuarter % 4 * 15, 2, 10, QLatin1Char('0'));
-}
+using DayDialogHand::ClickBox;
+using DayDialogHand::ClickButton;
+using DayDialogHand::ClickOk;
+using DayDialogHand::Row;
+using DayDialogHand::TypeRow;
 
 } // namespace
 
@@ -92,115 +87,7 @@ private:
         m_driver->End();
     }
 
-    QWidget* Bar(int iDay) const
-    {
-        return m_driver->Page()->findChild<QWidget*>(QStringLiteral("editor%1").arg(iDay));
-    }
-    QWidget* Display(int iDay) const { return Bar(iDay)->findChild<QWidget*>(QStringLiteral("wndDisplay")); }
-    bool ClickLock(const QString& strName) const
-    {
-        return Hand::Click(m_driver->Page()->findChild<QPushButton*>(strName));
-    }
-    bool IsLocked(int iDay) const
-    {
-        return m_driver->Page()->findChild<QPushButton*>(QStringLiteral("btn%1").arg(iDay))->isChecked();
-    }
-
-    /// The middle of the quarter hour that begins at this time of day, given in hours.
-    QPoint At(int iDay, double dHours) const
-    {
-        const QWidget* pDisplay = Display(iDay);
-        const int iSecond = qRound(dHours * 3600) + QuarterHour / 2;
-        return {pDisplay->width() * iSecond / LastSecond, pDisplay->height() / 2};
-    }
-    /// A pull over the quarter hours from one time to before another. Over a region it erases.
-    void Drag(int iDay, double dFrom, double dTo) const
-    {
-        QWidget* pDisplay = Display(iDay);
-        const double dLast = dTo - 0.25;
-        QVERIFY(Hand::Hover(pDisplay, At(iDay, dFrom)));
-        QVERIFY(Hand::Press(pDisplay, At(iDay, dFrom)));
-        QVERIFY(Hand::Hover(pDisplay, At(iDay, (dFrom + dLast) / 2)));
-        QVERIFY(Hand::Hover(pDisplay, At(iDay, dLast)));
-        QVERIFY(Hand::Release(pDisplay, At(iDay, dLast)));
-    }
-    QImage Picture(int iDay) const
-    {
-        return Display(iDay)->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    }
-    /// What the bar shows, read from its pixels: the times between which it is green.
-    QString Seen(int iDay) const
-    {
-        const QImage picture = Picture(iDay);
-        QStringList regions;
-        int iBegin = -1;
-        for (int i = 0; i <= Quarters; ++i) {
-            // Beside the grid line of an hour.
-            const bool bGreen =
-                i < Quarters && picture.pixelColor(At(iDay, i / 4.0)) == QColor(QStringLiteral("#3AAA24"));
-            if (bGreen && iBegin < 0) {
-                iBegin = i;
-            } else if (!bGreen && iBegin >= 0) {
-                regions.append(ClockTime(iBegin) + QLatin1Char('-') + ClockTime(i));
-                iBegin = -1;
-            }
-        }
-        return regions.join(QLatin1Char(' '));
-    }
-    QStringList SeenWeek() const
-    {
-        QStringList week;
-        for (int iDay = 0; iDay < Days; ++iDay) {
-            week.append(Seen(iDay));
-        }
-        return week;
-    }
-
-    /// Opens the day's dialog by its button and does something in it; the dialog must have ended then.
-    void InDialog(int iDay, const std::function<void(QWidget*)>& act) const
-    {
-        m_driver->AnswerDialogs({act});
-        QVERIFY(Hand::Click(Bar(iDay)->findChild<QPushButton*>(QStringLiteral("btnDetail"))));
-        QCOMPARE(m_driver->AnsweredDialogs(), 1);
-        QVERIFY(QApplication::activeModalWidget() == nullptr);
-    }
-    /// Types the digits of a time, hours first, as "130507".
-    static void TypeTime(QWidget* pDialog, const QString& strEdit, const QString& strDigits)
-    {
-        auto* pEdit = pDialog->findChild<QTimeEdit*>(strEdit);
-        QVERIFY(pEdit != nullptr);
-        QVERIFY(Hand::Click(pEdit, QPoint(8, pEdit->height() / 2)));
-        // Coming in by the keyboard selects the hours, so that typing replaces them.
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QVERIFY(pEdit->hasFocus());
-        QTest::keyClicks(pEdit, strDigits);
-        QCOMPARE(pEdit->time(), QTime::fromString(strDigits, QStringLiteral("HHmmss")));
-    }
-    static void TypeRow(QWidget* pDialog, int iRow, const QString& strBegin, const QString& strEnd)
-    {
-        TypeTime(pDialog, QStringLiteral("timeEditBegin%1").arg(iRow), strBegin);
-        TypeTime(pDialog, QStringLiteral("timeEditEnd%1").arg(iRow), strEnd);
-    }
-    static QString Row(const QWidget* pDialog, int iRow)
-    {
-        return pDialog->findChild<QTimeEdit*>(QStringLiteral("timeEditBegin%1").arg(iRow))->text() +
-               QLatin1Char('-') +
-               pDialog->findChild<QTimeEdit*>(QStringLiteral("timeEditEnd%1").arg(iRow))->text();
-    }
-    static void ClickBox(QWidget* pDialog, const char* szBox)
-    {
-        auto* pBox = pDialog->findChild<QCheckBox*>(QLatin1String(szBox));
-        QVERIFY(pBox != nullptr);
-        const Qt::CheckState before = pBox->checkState();
-        QVERIFY(Hand::Click(pBox, QPoint(10, pBox->height() / 2)));
-        QVERIFY(pBox->checkState() != before);
-    }
-    static void ClickStandard(QWidget* pDialog, QDialogButtonBox::StandardButton button)
-    {
-        QVERIFY(Hand::Click(pDialog->findChild<QDialogButtonBox*>()->button(button)));
-    }
-    static void ClickOk(QWidget* pDialog) { ClickStandard(pDialog, QDialogButtonBox::Ok); }
+    WeekPlanHand Plan() const { return WeekPlanHand(*m_driver); }
 
     /// "begin-end begin-end" of the seven days, Sunday first, as the file holds the scheme.
     QStringList StoredWeek(const QString& strSource = QStringLiteral("1001$1$0$100101")) const
@@ -272,56 +159,56 @@ void TestWeekPlan::aPlanIsPaintedTypedLockedCopiedSavedAndFoundAgain()
     for (int iDay = 0; iDay < Days; ++iDay) {
         week.append(WholeDay());
     }
-    QCOMPARE(SeenWeek(), week); // a fresh scheme is armed all week
+    QCOMPARE(Plan().SeenWeek(), week); // a fresh scheme is armed all week
 
     // Monday from nothing.
-    Drag(Monday, 0, 24);
-    QCOMPARE(Seen(Monday), QString());
-    Drag(Monday, 8, 12);
-    Drag(Monday, 13, 16);
+    QVERIFY(Plan().Drag(Monday, 0, 24));
+    QCOMPARE(Plan().Seen(Monday), QString());
+    QVERIFY(Plan().Drag(Monday, 8, 12));
+    QVERIFY(Plan().Drag(Monday, 13, 16));
     week[Monday] = QStringLiteral("8:00-12:00 13:00-16:00");
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
 
     // Three days together.
     for (const int iDay : {Tuesday, Wednesday, Thursday}) {
-        QVERIFY(ClickLock(QStringLiteral("btn%1").arg(iDay)));
-        QVERIFY(IsLocked(iDay));
+        QVERIFY(Plan().ClickLock(iDay));
+        QVERIFY(Plan().IsLocked(iDay));
     }
-    Drag(Wednesday, 0, 6);
-    Drag(Thursday, 2, 3);
+    QVERIFY(Plan().Drag(Wednesday, 0, 6));
+    QVERIFY(Plan().Drag(Thursday, 2, 3));
     for (const int iDay : {Tuesday, Wednesday, Thursday}) {
         week[iDay] = QStringLiteral("2:00-3:00 6:00-24:00");
     }
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
 
     // Exact seconds, typed: one row is changed, one is new.
-    InDialog(Monday, [](QWidget* pDialog) {
+    QVERIFY(Plan().InDialog(Monday, [](QWidget* pDialog) {
         QCOMPARE(Row(pDialog, 1), QStringLiteral("8:00:00-12:00:00"));
         QCOMPARE(Row(pDialog, 2), QStringLiteral("13:00:00-16:00:00"));
         QCOMPARE(Row(pDialog, 3), QStringLiteral("0:00:00-0:00:00"));
         QVERIFY(pDialog->findChild<QCheckBox*>(QStringLiteral("chkMonday"))->isChecked());
         QCOMPARE(pDialog->findChild<QCheckBox*>(QStringLiteral("chkAll"))->checkState(),
                  Qt::PartiallyChecked);
-        TypeRow(pDialog, 2, QStringLiteral("130507"), QStringLiteral("175959"));
-        TypeRow(pDialog, 3, QStringLiteral("203001"), QStringLiteral("203002"));
-        ClickOk(pDialog);
-    });
+        QVERIFY(TypeRow(pDialog, 2, QStringLiteral("130507"), QStringLiteral("175959")));
+        QVERIFY(TypeRow(pDialog, 3, QStringLiteral("203001"), QStringLiteral("203002")));
+        QVERIFY(ClickOk(pDialog));
+    }));
     // The picture is rounded outwards to quarter hours, the day is not.
     week[Monday] = QStringLiteral("8:00-12:00 13:00-18:00 20:30-20:45");
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
 
     // The same for the weekend.
-    InDialog(Monday, [](QWidget* pDialog) {
+    QVERIFY(Plan().InDialog(Monday, [](QWidget* pDialog) {
         QCOMPARE(Row(pDialog, 2), QStringLiteral("13:05:07-17:59:59"));
-        ClickBox(pDialog, "chkSunday");
-        ClickBox(pDialog, "chkSaturday");
-        ClickOk(pDialog);
-    });
+        QVERIFY(ClickBox(pDialog, "chkSunday"));
+        QVERIFY(ClickBox(pDialog, "chkSaturday"));
+        QVERIFY(ClickOk(pDialog));
+    }));
     week[Sunday] = week[Saturday] = week[Monday];
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
     QList<QImage> pictures;
     for (int iDay = 0; iDay < Days; ++iDay) {
-        pictures.append(Picture(iDay));
+        pictures.append(Plan().Picture(iDay));
     }
     SaveAndEnd();
 
@@ -331,39 +218,38 @@ void TestWeekPlan::aPlanIsPaintedTypedLockedCopiedSavedAndFoundAgain()
                                         QStringLiteral("0-86399"), strTyped}));
 
     StartOnPlan();
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
     for (int iDay = 0; iDay < Days; ++iDay) {
-        QVERIFY2(Picture(iDay) == pictures[iDay], qPrintable(QString::number(iDay)));
-        QVERIFY(!IsLocked(iDay)); // a lock is no part of a scheme
+        QVERIFY2(Plan().Picture(iDay) == pictures[iDay], qPrintable(QString::number(iDay)));
+        QVERIFY(!Plan().IsLocked(iDay)); // a lock is no part of a scheme
     }
-    InDialog(Saturday, [](QWidget* pDialog) {
+    QVERIFY(Plan().InDialog(Saturday, [](QWidget* pDialog) {
         QCOMPARE(Row(pDialog, 1), QStringLiteral("8:00:00-12:00:00"));
         QCOMPARE(Row(pDialog, 2), QStringLiteral("13:05:07-17:59:59"));
         QCOMPARE(Row(pDialog, 3), QStringLiteral("20:30:01-20:30:02"));
         QTest::keyClick(pDialog, Qt::Key_Escape);
-    });
+    }));
 }
 
 void TestWeekPlan::lockedDaysShowTheDragWhileItRuns()
 {
     StartOnPlan();
     for (const int iDay : {Monday, Wednesday, Friday}) {
-        QVERIFY(ClickLock(QStringLiteral("btn%1").arg(iDay)));
+        QVERIFY(Plan().ClickLock(iDay));
     }
-    QWidget* pDisplay = Display(Monday);
-    QVERIFY(Hand::Hover(pDisplay, At(Monday, 10)));
-    QVERIFY(Hand::Press(pDisplay, At(Monday, 10)));
-    QVERIFY(Hand::Hover(pDisplay, At(Monday, 13.75)));
+    QVERIFY(Plan().HoverAt(Monday, 10));
+    QVERIFY(Plan().PressAt(Monday, 10));
+    QVERIFY(Plan().HoverAt(Monday, 13.75));
     const QString strHole = QStringLiteral("0:00-10:00 14:00-24:00");
-    QCOMPARE(SeenWeek(),
+    QCOMPARE(Plan().SeenWeek(),
              (QStringList{WholeDay(), strHole, WholeDay(), strHole, WholeDay(), strHole, WholeDay()}));
-    QVERIFY(Hand::Hover(pDisplay, At(Monday, 11.75)));
+    QVERIFY(Plan().HoverAt(Monday, 11.75));
     const QString strSmaller = QStringLiteral("0:00-10:00 12:00-24:00");
     const QStringList week{WholeDay(), strSmaller, WholeDay(), strSmaller,
                            WholeDay(), strSmaller, WholeDay()};
-    QCOMPARE(SeenWeek(), week);
-    QVERIFY(Hand::Release(pDisplay, At(Monday, 11.75)));
-    QCOMPARE(SeenWeek(), week);
+    QCOMPARE(Plan().SeenWeek(), week);
+    QVERIFY(Plan().ReleaseAt(Monday, 11.75));
+    QCOMPARE(Plan().SeenWeek(), week);
     SaveAndEnd();
     const QString strStored = QStringLiteral("0-36000 43200-86399");
     const QString strWhole = QStringLiteral("0-86399");
@@ -375,24 +261,24 @@ void TestWeekPlan::aFullLockedDayKeepsAllLockedDays()
 {
     StartOnPlan();
     // Wednesday has six regions, Monday one.
-    Drag(Wednesday, 0, 24);
+    QVERIFY(Plan().Drag(Wednesday, 0, 24));
     QStringList six;
     for (int i = 0; i < 6; ++i) {
-        Drag(Wednesday, 2 * i, 2 * i + 1);
+        QVERIFY(Plan().Drag(Wednesday, 2 * i, 2 * i + 1));
         six.append(QStringLiteral("%1:00-%2:00").arg(2 * i).arg(2 * i + 1));
     }
-    QCOMPARE(Seen(Wednesday), six.join(QLatin1Char(' ')));
-    Drag(Monday, 6, 24);
-    QVERIFY(ClickLock(QStringLiteral("btn%1").arg(Monday)));
-    QVERIFY(ClickLock(QStringLiteral("btn%1").arg(Wednesday)));
-    const QStringList before = SeenWeek();
-    Drag(Monday, 20, 21);
-    QCOMPARE(SeenWeek(), before);
+    QCOMPARE(Plan().Seen(Wednesday), six.join(QLatin1Char(' ')));
+    QVERIFY(Plan().Drag(Monday, 6, 24));
+    QVERIFY(Plan().ClickLock(Monday));
+    QVERIFY(Plan().ClickLock(Wednesday));
+    const QStringList before = Plan().SeenWeek();
+    QVERIFY(Plan().Drag(Monday, 20, 21));
+    QCOMPARE(Plan().SeenWeek(), before);
     QTRY_COMPARE(QToolTip::text(), QStringLiteral("6 regions at most."));
     // Nothing of the refused drag is left over: the next one, which both can take, is taken by both.
-    Drag(Monday, 10, 11);
-    QCOMPARE(Seen(Monday), QStringLiteral("0:00-6:00 10:00-11:00"));
-    QCOMPARE(Seen(Wednesday), before[Wednesday]);
+    QVERIFY(Plan().Drag(Monday, 10, 11));
+    QCOMPARE(Plan().Seen(Monday), QStringLiteral("0:00-6:00 10:00-11:00"));
+    QCOMPARE(Plan().Seen(Wednesday), before[Wednesday]);
     SaveAndEnd();
     const QStringList stored = StoredWeek();
     QCOMPARE(stored[Monday], QStringLiteral("0-21600 36000-39600"));
@@ -402,17 +288,17 @@ void TestWeekPlan::aFullLockedDayKeepsAllLockedDays()
 void TestWeekPlan::theLockOfAllDaysLocksTheWeek()
 {
     StartOnPlan();
-    QVERIFY(ClickLock(QStringLiteral("btnAll")));
+    QVERIFY(Plan().ClickLock(QStringLiteral("btnAll")));
     for (int iDay = 0; iDay < Days; ++iDay) {
-        QVERIFY(IsLocked(iDay));
+        QVERIFY(Plan().IsLocked(iDay));
     }
-    Drag(Saturday, 12, 24);
-    QCOMPARE(SeenWeek().count(QStringLiteral("0:00-12:00")), Days);
-    QVERIFY(ClickLock(QStringLiteral("btn%1").arg(Tuesday)));
+    QVERIFY(Plan().Drag(Saturday, 12, 24));
+    QCOMPARE(Plan().SeenWeek().count(QStringLiteral("0:00-12:00")), Days);
+    QVERIFY(Plan().ClickLock(Tuesday));
     QVERIFY(!m_driver->Page()->findChild<QPushButton*>(QStringLiteral("btnAll"))->isChecked());
-    Drag(Sunday, 12, 13);
-    QCOMPARE(Seen(Tuesday), QStringLiteral("0:00-12:00"));
-    QCOMPARE(SeenWeek().count(QStringLiteral("0:00-13:00")), Days - 1);
+    QVERIFY(Plan().Drag(Sunday, 12, 13));
+    QCOMPARE(Plan().Seen(Tuesday), QStringLiteral("0:00-12:00"));
+    QCOMPARE(Plan().SeenWeek().count(QStringLiteral("0:00-13:00")), Days - 1);
     SaveAndEnd();
     QCOMPARE(StoredWeek().count(QStringLiteral("0-46800")), Days - 1);
     QCOMPARE(StoredWeek().at(Tuesday), QStringLiteral("0-43200"));
@@ -421,14 +307,14 @@ void TestWeekPlan::theLockOfAllDaysLocksTheWeek()
 void TestWeekPlan::aReversedRowLeavesTheDayAndSaysWhichRow()
 {
     StartOnPlan();
-    InDialog(Wednesday, [](QWidget* pDialog) {
-        TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000"));
-        TypeRow(pDialog, 3, QStringLiteral("120000"), QStringLiteral("110000"));
-        ClickOk(pDialog); // ends the dialog all the same
-    });
+    QVERIFY(Plan().InDialog(Wednesday, [](QWidget* pDialog) {
+        QVERIFY(TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000")));
+        QVERIFY(TypeRow(pDialog, 3, QStringLiteral("120000"), QStringLiteral("110000")));
+        QVERIFY(ClickOk(pDialog)); // ends the dialog all the same
+    }));
     QCOMPARE(ClientDriver::LastNote(),
              QStringLiteral("At 3 row, the end time is earlier than the start time."));
-    QCOMPARE(Seen(Wednesday), WholeDay());
+    QCOMPARE(Plan().Seen(Wednesday), WholeDay());
     SaveAndEnd();
     QCOMPARE(StoredWeek().at(Wednesday), QStringLiteral("0-86399"));
 }
@@ -436,48 +322,49 @@ void TestWeekPlan::aReversedRowLeavesTheDayAndSaysWhichRow()
 void TestWeekPlan::aDialogThatIsCancelledChangesNothing()
 {
     StartOnPlan();
-    const QStringList before = SeenWeek();
+    const QStringList before = Plan().SeenWeek();
     const auto change = [](QWidget* pDialog) {
-        TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000"));
-        ClickBox(pDialog, "chkFriday");
+        QVERIFY(TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000")));
+        QVERIFY(ClickBox(pDialog, "chkFriday"));
     };
-    InDialog(Tuesday, [change](QWidget* pDialog) {
+    QVERIFY(Plan().InDialog(Tuesday, [change](QWidget* pDialog) {
         change(pDialog);
-        ClickStandard(pDialog, QDialogButtonBox::Cancel);
-    });
-    InDialog(Tuesday, [change](QWidget* pDialog) {
+        QVERIFY(ClickButton(pDialog, QDialogButtonBox::Cancel));
+    }));
+    QVERIFY(Plan().InDialog(Tuesday, [change](QWidget* pDialog) {
         change(pDialog);
         QTest::keyClick(pDialog, Qt::Key_Escape);
-    });
+    }));
     // No day at all is nothing to do, whatever the rows say.
-    InDialog(Tuesday, [](QWidget* pDialog) {
-        TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000"));
-        ClickBox(pDialog, "chkTuesday");
-        ClickOk(pDialog);
-    });
-    QCOMPARE(SeenWeek(), before);
+    QVERIFY(Plan().InDialog(Tuesday, [](QWidget* pDialog) {
+        QVERIFY(TypeRow(pDialog, 1, QStringLiteral("080000"), QStringLiteral("090000")));
+        QVERIFY(ClickBox(pDialog, "chkTuesday"));
+        QVERIFY(ClickOk(pDialog));
+    }));
+    QCOMPARE(Plan().SeenWeek(), before);
 }
 
 void TestWeekPlan::aDayIsCopiedToOthersWithoutItself()
 {
     StartOnPlan();
-    InDialog(Friday, [](QWidget* pDialog) {
-        TypeRow(pDialog, 1, QStringLiteral("093000"), QStringLiteral("110000"));
-        TypeRow(pDialog, 2, QStringLiteral("080000"), QStringLiteral("100000")); // fuses with the first
-        ClickBox(pDialog, "chkFriday");
-        ClickBox(pDialog, "chkSunday");
-        ClickBox(pDialog, "chkThursday");
-        ClickOk(pDialog);
-    });
-    QCOMPARE(Seen(Friday), WholeDay());
-    QCOMPARE(Seen(Sunday), QStringLiteral("8:00-11:00"));
-    QCOMPARE(Seen(Thursday), QStringLiteral("8:00-11:00"));
+    QVERIFY(Plan().InDialog(Friday, [](QWidget* pDialog) {
+        QVERIFY(TypeRow(pDialog, 1, QStringLiteral("093000"), QStringLiteral("110000")));
+        QVERIFY(
+            TypeRow(pDialog, 2, QStringLiteral("080000"), QStringLiteral("100000"))); // fuses with the first
+        QVERIFY(ClickBox(pDialog, "chkFriday"));
+        QVERIFY(ClickBox(pDialog, "chkSunday"));
+        QVERIFY(ClickBox(pDialog, "chkThursday"));
+        QVERIFY(ClickOk(pDialog));
+    }));
+    QCOMPARE(Plan().Seen(Friday), WholeDay());
+    QCOMPARE(Plan().Seen(Sunday), QStringLiteral("8:00-11:00"));
+    QCOMPARE(Plan().Seen(Thursday), QStringLiteral("8:00-11:00"));
     // Everything to every day, by the box for all.
-    InDialog(Sunday, [](QWidget* pDialog) {
-        ClickBox(pDialog, "chkAll");
-        ClickOk(pDialog);
-    });
-    QCOMPARE(SeenWeek().count(QStringLiteral("8:00-11:00")), Days);
+    QVERIFY(Plan().InDialog(Sunday, [](QWidget* pDialog) {
+        QVERIFY(ClickBox(pDialog, "chkAll"));
+        QVERIFY(ClickOk(pDialog));
+    }));
+    QCOMPARE(Plan().SeenWeek().count(QStringLiteral("8:00-11:00")), Days);
     SaveAndEnd();
     QCOMPARE(StoredWeek().count(QStringLiteral("28800-39600")), Days);
 }
@@ -485,17 +372,17 @@ void TestWeekPlan::aDayIsCopiedToOthersWithoutItself()
 void TestWeekPlan::aPlanBelongsToItsEventAndDoor()
 {
     StartOnPlan();
-    Drag(Monday, 0, 8);
+    QVERIFY(Plan().Drag(Monday, 0, 8));
     const QString strPlan = QStringLiteral("8:00-24:00");
     QVERIFY(m_driver->ClickEvent(QCommon::GetAlarmNameByType(AlarmSchemeCommon::ACSAlarmEvent().at(0))));
-    QCOMPARE(Seen(Monday), WholeDay());
+    QCOMPARE(Plan().Seen(Monday), WholeDay());
     QVERIFY(m_driver->ClickEvent(m_strEvent));
-    QCOMPARE(Seen(Monday), strPlan);
+    QCOMPARE(Plan().Seen(Monday), strPlan);
     OpenPlan(Turnstile);
-    QCOMPARE(Seen(Monday), WholeDay());
+    QCOMPARE(Plan().Seen(Monday), WholeDay());
     QVERIFY(m_driver->ClickButton("btnNotify"));
     OpenPlan();
-    QCOMPARE(Seen(Monday), strPlan);
+    QCOMPARE(Plan().Seen(Monday), strPlan);
     SaveAndEnd();
     QCOMPARE(StoredWeek().at(Monday), QStringLiteral("28800-86399"));
     QCOMPARE(StoredWeek(QStringLiteral("1001$1$0$100102")).at(Monday), QStringLiteral("0-86399"));
@@ -524,7 +411,7 @@ void TestWeekPlan::daysThatNobodyCouldPaintAreKeptUntilEdited()
     StartOnPlan();
     QVERIFY(m_driver->ClickButton("btnNotify"));
     QVERIFY(m_driver->ClickButton("btnDefTime"));
-    Drag(Friday, 0, 12); // another day
+    QVERIFY(Plan().Drag(Friday, 0, 12)); // another day
     SaveAndEnd();
     QStringList after = before;
     after[Friday] = QStringLiteral("43200-86399");
@@ -537,7 +424,7 @@ void TestWeekPlan::storedRowsThatAreNoTimesAreNotShown()
     SaveAndEnd();
     StoreDay(Tuesday, {{9000, 100}, {-500, 900}, {3600, 7200}});
     StartOnPlan();
-    QCOMPARE(Seen(Tuesday), QStringLiteral("1:00-2:00"));
+    QCOMPARE(Plan().Seen(Tuesday), QStringLiteral("1:00-2:00"));
     SaveAndEnd();
     QCOMPARE(StoredWeek().at(Tuesday), QStringLiteral("3600-7200"));
 }
@@ -548,15 +435,15 @@ void TestWeekPlan::okEmptiesADayOfSevenRegions()
     SaveAndEnd();
     StoreDay(Tuesday, {{0, 1}, {10, 20}, {30, 40}, {50, 60}, {70, 80}, {90, 100}, {110, 120}});
     StartOnPlan();
-    InDialog(Tuesday, [](QWidget* pDialog) {
+    QVERIFY(Plan().InDialog(Tuesday, [](QWidget* pDialog) {
         QCOMPARE(Row(pDialog, 1), QStringLiteral("0:00:00-0:00:00"));
-        ClickOk(pDialog);
-    });
-    QCOMPARE(Seen(Tuesday), QString());
+        QVERIFY(ClickOk(pDialog));
+    }));
+    QCOMPARE(Plan().Seen(Tuesday), QString());
     SaveAndEnd();
     QCOMPARE(StoredWeek().at(Tuesday), QString());
     StartOnPlan();
-    QCOMPARE(Seen(Tuesday), QString());
+    QCOMPARE(Plan().Seen(Tuesday), QString());
 }
 
 QTEST_MAIN(TestWeekPlan)
