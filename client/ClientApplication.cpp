@@ -231,14 +231,25 @@ void ClientApplication::OnClosing()
     m_settings->SetWindowGeometry(m_window->saveGeometry());
     QSystem::GetInstance()->SetState(QSystem::StateClosing);
     QStringList keys;
+    QString strFront;
     const QList<QPointer<QWidget>> pages = m_window->OpenPages();
     for (int i = 0; i < pages.size(); ++i) {
         std::unique_ptr<QRecoverSubWndBase> record;
         LXRecoverEvent event(LXRecoverEvent::MessageRecover, i, &record);
         QCoreApplication::sendEvent(pages.at(i), &event);
-        if (record && record->IsVisible()) {
-            keys.append(m_window->KeyOfPage(pages.at(i)));
+        if (!record) {
+            continue;
         }
+        // A page behind another tab is open too; the one in front is opened last, which brings it there.
+        const QString strKey = m_window->KeyOfPage(pages.at(i));
+        if (record->IsVisible()) {
+            strFront = strKey;
+        } else {
+            keys.append(strKey);
+        }
+    }
+    if (!strFront.isEmpty()) {
+        keys.append(strFront);
     }
     m_settings->SetOpenPages(keys);
 }
