@@ -307,14 +307,15 @@ void TestOutputsAndCopies::aDoorsSchemesReachElevenOtherDoors()
     SaveAndEnd();
 
     const QStringList outputs{QStringLiteral("100107$3$0$0|1|45")};
-    for (const qint64 iDoor : QList<qint64>{MainEntrance} + targets) {
+    const QList<qint64> doors = QList<qint64>{MainEntrance} + targets;
+    for (const qint64 iDoor : doors) {
         QCOMPARE(File().Flags(DoorSource(iDoor), m_iType), QStringLiteral("1|1|0"));
         QCOMPARE(File().Outputs(DoorSource(iDoor), m_iType), outputs);
     }
     for (const qint64 iDevice : {1001, 1002, 1003, 1004}) {
         QCOMPARE(File().Flags(DeviceSource(iDevice), TamperedType), QStringLiteral("1|0|0"));
     }
-    QCOMPARE(File().Flags(DeviceSource(1005), TamperedType).left(1) == QLatin1String("1"), false);
+    QVERIFY(!File().Flags(DeviceSource(1005), TamperedType).startsWith(QLatin1Char('1')));
     QCOMPARE(File().Flags(DoorSource(Turnstile), m_iOtherType), QStringLiteral("0|0|0"));
     QCOMPARE(File().Rows(QStringLiteral("select count(*) from AlarmBaseInfo where bOpen = 1")),
              QStringList{QString::number(12 + 4)});
