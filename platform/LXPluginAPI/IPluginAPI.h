@@ -7,7 +7,9 @@
 namespace LXPluginAPI {
 
 /// What every module offers its host, whatever it contributes. User-interface thread only.
-/// Life cycle: load, AddManager once per manager, Initialize, use, Uninitialize, delete the root object.
+/// Life cycle: load, AddManager once per manager, Load, Initialize, Start, use, destroy the pages, Stop,
+/// Uninitialize, delete the root object. A page that a host keeps longer still watches the device manager:
+/// that one must then outlive the page.
 class LXPLUGINAPI_EXPORT IPluginAPI
 {
 public:
