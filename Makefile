@@ -2,6 +2,7 @@
 # The build itself is CMake with Ninja; see CMakePresets.json for the other configurations.
 SHELL := /bin/bash
 BUILD := build
+JOBS := $(shell nproc)
 
 .PHONY: run test build deps bench pictures check sanitize
 
@@ -16,16 +17,16 @@ run: build
 	@./scripts/run-client.sh $(BUILD)
 
 test: build
-	@ctest --test-dir $(BUILD) --output-on-failure
+	@ctest --test-dir $(BUILD) --output-on-failure --parallel $(JOBS)
 
 sanitize: deps
 	@cmake --preset asan+ubsan
 	@cmake --build $(BUILD)/asan
-	@ctest --test-dir $(BUILD)/asan --output-on-failure
+	@ctest --test-dir $(BUILD)/asan --output-on-failure --parallel $(JOBS)
 
-check:
+check: build
 	@./scripts/install-dependencies.sh check
-	@./scripts/static-checks.sh
+	@./scripts/static-checks.sh $(BUILD)
 
 pictures: build
 	@./scripts/make-pictures.sh $(BUILD)

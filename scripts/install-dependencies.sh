@@ -2,7 +2,7 @@
 # Installs the Debian packages that are missing for a purpose: build, check or bench.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools libsqlite3-dev rapidjson-dev
+packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev rapidjson-dev
     fonts-dejavu-core fonts-noto-cjk xauth xvfb)
 case "${1:-build}" in
 build) ;;
