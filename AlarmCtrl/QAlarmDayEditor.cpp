@@ -171,7 +171,10 @@ void QAlarmDayEditor::PaintDisplay()
         content.drag = source.m_drag;
     }
     const qreal dRatio = m_pDisplay->devicePixelRatioF();
-    const QImage image = DayBarPicture::Draw(m_pDisplay->size(), dRatio, content);
+    QImage image = DayBarPicture::Draw(m_pDisplay->size(), dRatio, content);
+    // Every pixel is opaque or fully transparent, for which both formats have the same bits; this one
+    // is copied faster.
+    image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(m_pDisplay);
     // In device pixels, so that the picture is copied and not scaled again at a fractional ratio.
     painter.scale(1 / dRatio, 1 / dRatio);
