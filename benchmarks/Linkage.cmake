@@ -1,5 +1,5 @@
 add_executable(bench_copy bench_copy.cpp)
-target_link_libraries(bench_copy PRIVATE acs_options SchemeCopy AlarmRecords benchmark::benchmark)
+target_link_libraries(bench_copy PRIVATE acs_options SchemeCopy SchemeEditor AlarmRecords benchmark::benchmark)
 
 add_executable(bench_output_editor bench_output_editor.cpp)
 target_link_libraries(bench_output_editor PRIVATE acs_options AlarmLinkage SchemeCopy HostServices LXGUI SiteLibrary

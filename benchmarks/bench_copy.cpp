@@ -1,5 +1,7 @@
-// One door's schemes copied to 10,000 doors, beside the same number of plain insertions in the same run.
+// One door's schemes copied to 10,000 doors, and the schemes of single devices removed from among those,
+// beside as many plain insertions and removals in the same run.
 
+#include "scheme_editor/DeviceSchemes.h"
 #include "scheme_editor/SchemeCopy.h"
 
 #include <benchmark/benchmark.h>
@@ -13,6 +15,8 @@ namespace {
 constexpr int s_iDoors = 10000;
 constexpr int s_iDoorsPerController = 8;
 constexpr int s_iTypes = 80;
+constexpr int s_iFirstController = 100;
+constexpr int s_iRemovals = 1000; // of the 1,250 controllers
 const QString s_strSource = QStringLiteral("1$1$0$2");
 
 /// Bytes that the heap holds; 0 where the platform does not tell.
@@ -57,7 +61,7 @@ QList<QString> Targets()
     QList<QString> targets;
     targets.reserve(s_iDoors);
     for (int door = 0; door < s_iDoors; ++door)
-        targets.append(EventSource::Door(100 + door / s_iDoorsPerController, 100000 + door));
+        targets.append(EventSource::Door(s_iFirstController + door / s_iDoorsPerController, 100000 + door));
     return targets;
 }
 
@@ -140,10 +144,49 @@ void ClearTargets(benchmark::State& state)
     Count(state, entries, 0.0);
 }
 
+// The plain container operation of a removal: as many entries, one after the other, without any rule.
+void PlainErase(benchmark::State& state)
+{
+    AlarmInfoMap map = SchemeCopy::Copy(SourceOnly(), s_strSource, Targets(), Types());
+    const int before = map.size();
+    const int each = s_iDoorsPerController * (s_iTypes - 1) + 1;
+    auto place = map.begin();
+    for (auto _ : state) {
+        for (int entry = 0; entry < each; ++entry)
+            place = map.erase(place);
+    }
+    state.counters["entries"] = static_cast<double>(before - map.size()) / s_iRemovals;
+}
+
+void RemoveDevice(benchmark::State& state)
+{
+    AlarmInfoMap map = SchemeCopy::Copy(SourceOnly(), s_strSource, Targets(), Types());
+    const int before = map.size();
+    int64_t device = s_iFirstController;
+    for (auto _ : state)
+        DeviceSchemes::Remove(map, device++);
+    state.counters["entries"] = static_cast<double>(before - map.size()) / s_iRemovals;
+}
+
+// What a removal would cost that looked at every entry.
+void WalkWholeMap(benchmark::State& state)
+{
+    const AlarmInfoMap map = SchemeCopy::Copy(SourceOnly(), s_strSource, Targets(), Types());
+    for (auto _ : state) {
+        int found = 0;
+        for (auto it = map.cbegin(); it != map.cend(); ++it)
+            found += EventSource::BelongsToDevice(it.key().strEventSource, s_iFirstController) ? 1 : 0;
+        benchmark::DoNotOptimize(found);
+    }
+}
+
 BENCHMARK(PlainInsert)->Unit(benchmark::kMillisecond);
 BENCHMARK(CopyIntoEmpty)->Unit(benchmark::kMillisecond);
 BENCHMARK(CopyOverExisting)->Unit(benchmark::kMillisecond);
 BENCHMARK(ClearTargets)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(PlainErase)->Unit(benchmark::kMillisecond)->Iterations(s_iRemovals);
+BENCHMARK(RemoveDevice)->Unit(benchmark::kMillisecond)->Iterations(s_iRemovals);
+BENCHMARK(WalkWholeMap)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
