@@ -9,4 +9,4 @@ acs_library(AlarmLinkage STATIC SOURCES
     QAlarmNotifyEditor.cpp QAlarmNotifyEditor.h QAlarmNotifyEditor.ui
     QAlarmOutEditor.cpp QAlarmOutEditor.h QAlarmOutEditor.ui
     PUBLIC AlarmRecords Qt5::Widgets
-    PRIVATE HostServices LXGUI UICommonMdl SystemLibrary VantaComponent VantaModel VantaLogic)
+    PRIVATE HostServices LXGUI VantaComponent VantaModel VantaLogic)

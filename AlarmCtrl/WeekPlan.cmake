@@ -10,4 +10,4 @@ acs_library(AlarmWeekPlan STATIC SOURCES
     QAlarmDayItem.cpp QAlarmDayItem.h
     QAlarmDefenceTimeEditor.cpp QAlarmDefenceTimeEditor.h QAlarmDefenceTimeEditor.ui
     PUBLIC DefenceTime AlarmRecords Qt5::Widgets
-    PRIVATE LXGUI UICommonMdl SystemLibrary)
+    PRIVATE LXGUI SystemLibrary)
