@@ -1066,8 +1066,8 @@ Data directory: %2</translation>
         <translation>Your changes are still here. Free some space, then save again.</translation>
     </message>
     <message>
-        <source>Your changes are still here. Put the file back, then start this program again.</source>
-        <translation>Your changes are still here. Put the file back, then start this program again.</translation>
+        <source>Your changes are still here. Put the file back, then save again.</source>
+        <translation>Your changes are still here. Put the file back, then save again.</translation>
     </message>
     <message>
         <source>Restore a copy of the file, then start this program again.</source>

@@ -1063,8 +1063,8 @@ Data directory: %2</source>
         <translation>您的更改仍然保留。请释放一些磁盘空间，然后再次保存。</translation>
     </message>
     <message>
-        <source>Your changes are still here. Put the file back, then start this program again.</source>
-        <translation>您的更改仍然保留。请将文件放回原处，然后重新启动本程序。</translation>
+        <source>Your changes are still here. Put the file back, then save again.</source>
+        <translation>您的更改仍然保留。请将文件放回原处，然后再次保存。</translation>
     </message>
     <message>
         <source>Restore a copy of the file, then start this program again.</source>

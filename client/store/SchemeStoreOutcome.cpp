@@ -136,7 +136,7 @@ QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
     case Reason::DiskFull:
         return tr("Your changes are still here. Free some space, then save again.");
     case Reason::Moved:
-        return tr("Your changes are still here. Put the file back, then start this program again.");
+        return tr("Your changes are still here. Put the file back, then save again.");
     case Reason::Damaged:
         return tr("Restore a copy of the file, then start this program again.");
     default:

@@ -100,6 +100,7 @@ private Q_SLOTS:
     void aDirectoryThatCannotBeMadeMakesBothFail();
     void aDirectoryThatAppearsLaterIsUsedByTheNextLoad();
     void aDatabaseThatWasRemovedIsNoticed();
+    void aDatabaseThatWasPutBackIsSavedTo();
     void anOldFileWithoutTheMailColumnLoadsAndSaves();
     void valuesOfOtherTypesAreNoDamage();
     void theHandlerMayBeRemovedAndMayLoadAgain();
@@ -503,6 +504,24 @@ void SchemeStoreBackendTest::aDatabaseThatWasRemovedIsNoticed()
     // A load starts over with whatever lies there now.
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map.isEmpty());
+    QCOMPARE(backend.Save(Map(3, true)), 0);
+    QVERIFY(Stored() == Map(3, true));
+}
+
+void SchemeStoreBackendTest::aDatabaseThatWasPutBackIsSavedTo()
+{
+    AlarmSchemeStoreBackend backend;
+    AlarmInfoMap map;
+    QCOMPARE(backend.Load(map), 0);
+    QCOMPARE(backend.Save(Map(2, true)), 0);
+    const QString strAway = m_folder->File() + QStringLiteral(".away");
+    if (!QFile::rename(m_folder->File(), strAway))
+        return; // a system that keeps open files in place
+    QCOMPARE(backend.Save(Map(3, true)), -1);
+    QVERIFY(backend.LastOutcome().eReason == Reason::Moved);
+    // What the note says to do keeps the edits.
+    QVERIFY(backend.LastOutcome().strNext.endsWith(QLatin1String("Put the file back, then save again.")));
+    QVERIFY(QFile::rename(strAway, m_folder->File()));
     QCOMPARE(backend.Save(Map(3, true)), 0);
     QVERIFY(Stored() == Map(3, true));
 }
