@@ -45,10 +45,11 @@ QSet<int64_t> MovedIds(const QVector<int64_t>& after, const QHash<int64_t, int>&
         const int iPlace = before.value(after[i]);
         const auto it = std::lower_bound(tails.begin(), tails.end(), iPlace);
         lengths[i] = static_cast<int>(std::distance(tails.begin(), it)) + 1;
-        if (it == tails.end())
+        if (it == tails.end()) {
             tails.append(iPlace);
-        else
+        } else {
             *it = iPlace;
+        }
     }
     QSet<int64_t> moved;
     int iWanted = tails.size();

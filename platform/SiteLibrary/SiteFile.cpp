@@ -16,7 +16,8 @@ using namespace VantaLogic;
 namespace {
 
 /// About twelve times the site of 10,000 doors; more is no site.
-constexpr qint64 maxFileSize = 64LL * 1024 * 1024;
+constexpr qint64 megabyte = 1024LL * 1024;
+constexpr qint64 maxFileSize = 64 * megabyte;
 
 using Writer = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
 
@@ -114,9 +115,10 @@ bool Read(const QString& strPath, Site& site, SiteFileError& error)
 
 bool Parse(const QByteArray& text, const QString& strFileName, Site& site, SiteFileError& error)
 {
-    if (text.size() > maxFileSize)
+    if (text.size() > maxFileSize) {
         return Fail(error, strFileName,
-                    SiteText::tr("the file is larger than %1 MB").arg(maxFileSize / (1024 * 1024)));
+                    SiteText::tr("the file is larger than %1 MB").arg(maxFileSize / megabyte));
+    }
     SiteTextError textError;
     if (ReadSiteText(text, site, textError))
         return true;

@@ -71,9 +71,10 @@ GroupProblem FirstGroupProblem(const QVector<VantaLogic::GroupInfo>& groups)
         int iDepth = iAt == -1 ? 0 : depths[iAt];
         while (!path.isEmpty()) {
             depths[path.last()] = ++iDepth;
-            if (iDepth > MaxGroupDepth)
+            if (iDepth > MaxGroupDepth) {
                 return {path.last(),
                         SiteText::tr("groups lie within groups more than %1 deep").arg(MaxGroupDepth)};
+            }
             path.removeLast();
         }
     }

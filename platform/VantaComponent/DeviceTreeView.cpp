@@ -49,11 +49,12 @@ void DeviceTreeView::SelectRow(const QModelIndex& index)
     const QScopedValueRollback<bool> guard(m_bByProgram, true);
     const bool bAutoScroll = hasAutoScroll();
     setAutoScroll(false); // would unfold what is above the row
-    if (index.isValid())
+    if (index.isValid()) {
         selectionModel()->setCurrentIndex(index,
                                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    else
+    } else {
         selectionModel()->clear();
+    }
     setAutoScroll(bAutoScroll);
 }
 
@@ -165,12 +166,13 @@ void DeviceTreeView::mouseReleaseEvent(QMouseEvent* event)
 void DeviceTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const QModelIndex index = indexAt(event->pos());
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton) {
         mousePressEvent(event);
-    else if (index.isValid() && CheckBoxRect(index).contains(event->pos()))
+    } else if (index.isValid() && CheckBoxRect(index).contains(event->pos())) {
         Press(index, event->pos()); // two quick clicks are two clicks, and fold nothing
-    else
+    } else {
         QTreeView::mouseDoubleClickEvent(event);
+    }
 }
 
 void DeviceTreeView::keyPressEvent(QKeyEvent* event)

@@ -121,12 +121,13 @@ void GroupTreeCtrl::Private::OnRowFolded(const QModelIndex& index, bool bUnfolde
         return;
     const int32_t iKind = pItem->data(VantaModel::NodeKindRole).toInt();
     const int64_t iId = pItem->data(VantaModel::NodeIdRole).toLongLong();
-    if (VantaLogic::ITreeExpansion* pMemory = pModel->GetExpandInterface())
+    if (VantaLogic::ITreeExpansion* pMemory = pModel->GetExpandInterface()) {
         pMemory->SetExpanded(iKind, iId, bUnfolded);
-    else if (bUnfolded)
+    } else if (bUnfolded) {
         m_unfolded.insert({iKind, iId});
-    else
+    } else {
         m_unfolded.remove({iKind, iId});
+    }
 }
 
 bool GroupTreeCtrl::Private::IsUnfolded(const QStandardItem* pItem) const
@@ -222,15 +223,16 @@ void GroupTreeCtrl::Private::ShowSelection()
 void GroupTreeCtrl::Private::ShowEmptyText()
 {
     QString strText;
-    if (pFilter->rowCount() > 0)
+    if (pFilter->rowCount() > 0) {
         strText.clear();
-    else if (pModel && pModel->rowCount() > 0)
+    } else if (pModel && pModel->rowCount() > 0) {
         strText = GroupTreeCtrl::tr("No device matches \"%1\"; clear the search to see all devices.")
                       .arg(pFilter->SearchText().left(40));
-    else if (pDeviceManager && !pDeviceManager->GetDeviceIds().isEmpty())
+    } else if (pDeviceManager && !pDeviceManager->GetDeviceIds().isEmpty()) {
         strText = GroupTreeCtrl::tr("The site has no device that can be chosen here.");
-    else
+    } else {
         strText = GroupTreeCtrl::tr("The site has no devices; add one to see it here.");
+    }
     ui.treeDevices->SetEmptyText(strText);
 }
 
@@ -252,12 +254,13 @@ void GroupTreeCtrl::Private::SetChecked(QStandardItem* pItem, bool bChecked)
 {
     if (!pModel)
         return;
-    if (!pFilter->IsSearching())
+    if (!pFilter->IsSearching()) {
         pModel->SetChecked(pItem, bChecked);
-    else
+    } else {
         pModel->SetChecked(pItem, bChecked, [this](const QModelIndex& index) {
             return pFilter->IsShown(pModel->itemFromIndex(index));
         });
+    }
 }
 
 void GroupTreeCtrl::Private::Collect(QStandardItem* pItem, bool bTicked, bool bShownOnly,

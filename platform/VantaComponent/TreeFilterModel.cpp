@@ -328,7 +328,6 @@ void TreeFilterModel::Bring(QStandardItem* pParent, const SearchResult& wanted)
     if (!m_result.shown.contains(pParent))
         m_result.shown.insert(pParent, AllChildren(pParent));
     const Rows rows = bAllWanted ? AllChildren(pParent) : *target;
-    const Rows before = m_result.shown.value(pParent);
     HideRows(pParent, rows);
     const Rows kept = m_result.shown.value(pParent);
     ShowRows(pParent, rows, wanted);

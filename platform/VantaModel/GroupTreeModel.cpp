@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QSet>
+#include <QTimer>
 
 using namespace VantaLogic;
 
@@ -19,6 +20,9 @@ public:
         , order(pManager)
         , growth(look, order, iTreeMode == 1)
     {
+        buildSoon.setSingleShot(true);
+        buildSoon.setInterval(0);
+        connect(&buildSoon, &QTimer::timeout, q, &GroupTreeModel::EnsureBuilt);
     }
 
     void OnDeviceAdded(int64_t iDeviceId) override { Refresh(iDeviceId); }
@@ -30,6 +34,7 @@ public:
     void BuildLater();
     void Build();
     void Refresh(int64_t iDeviceId);
+    bool WorkIn(const DeviceInfo& device);
     void TellCheckable(const QModelIndex& parent);
 
     GroupTreeModel* q;
@@ -43,22 +48,13 @@ public:
     QHash<int64_t, int32_t> types; ///< of all devices of the site: a device that has gone cannot be asked
     QSet<int64_t> offered;         ///< devices that this tree has shown
     bool bStale = true;
-    bool bBuildPosted = false;
+    QTimer buildSoon; ///< fires when control returns to the event loop
 };
 
 void GroupTreeModel::Private::BuildLater()
 {
     bStale = true;
-    if (bBuildPosted)
-        return;
-    bBuildPosted = true;
-    QMetaObject::invokeMethod(
-        q,
-        [this] {
-            bBuildPosted = false;
-            q->EnsureBuilt();
-        },
-        Qt::QueuedConnection);
+    buildSoon.start();
 }
 
 void GroupTreeModel::Private::Build()
@@ -90,18 +86,25 @@ void GroupTreeModel::Private::Refresh(int64_t iDeviceId)
     if (bStale)
         return;
     order.ReadDevices();
-    const bool bShown = growth.Find(iDeviceId, NodeKindDevice) != nullptr;
+    if (WorkIn(device))
+        Q_EMIT q->TreeUpdated();
+}
+
+/// False when the device neither is nor was shown.
+bool GroupTreeModel::Private::WorkIn(const DeviceInfo& device)
+{
+    const bool bShown = growth.Find(device.iDeviceId, NodeKindDevice) != nullptr;
     if (!filter.OffersDevice(device.iDeviceType)) {
-        if (!bShown)
-            return;
-        growth.RemoveDevice(iDeviceId);
-    } else if (bShown) {
+        growth.RemoveDevice(device.iDeviceId);
+        return bShown;
+    }
+    offered.insert(device.iDeviceId);
+    if (bShown) {
         growth.UpdateDevice(q->invisibleRootItem(), filter, device);
     } else {
-        offered.insert(iDeviceId);
         growth.AddDevice(q->invisibleRootItem(), filter, device);
     }
-    Q_EMIT q->TreeUpdated();
+    return true;
 }
 
 void GroupTreeModel::Private::OnDeviceRemoved(int64_t iDeviceId)
@@ -226,6 +229,7 @@ void GroupTreeModel::EnsureBuilt()
     if (!d->bStale)
         return;
     d->bStale = false;
+    d->buildSoon.stop();
     // One reset for the whole change; nobody sees the tree while it is empty.
     beginResetModel();
     {

@@ -159,10 +159,11 @@ void TreeGrowth::Place(QStandardItem* pRoot, int64_t iGroupId, TreeNode* pNode)
     int iTo = pParent->rowCount();
     while (iFrom < iTo) {
         const int iMiddle = iFrom + (iTo - iFrom) / 2;
-        if (Precedes(*static_cast<TreeNode*>(pParent->child(iMiddle)), *pBranch))
+        if (Precedes(*static_cast<TreeNode*>(pParent->child(iMiddle)), *pBranch)) {
             iFrom = iMiddle + 1;
-        else
+        } else {
             iTo = iMiddle;
+        }
     }
     TreeNode::Attach(pParent, iFrom, pBranch);
 }

@@ -142,10 +142,11 @@ Qt::CheckState TreeNode::State() const
 
 void TreeNode::Count(Qt::CheckState state, int iBy)
 {
-    if (state == Qt::Checked)
+    if (state == Qt::Checked) {
         m_iTicked += iBy;
-    else if (state == Qt::PartiallyChecked)
+    } else if (state == Qt::PartiallyChecked) {
         m_iPartly += iBy;
+    }
 }
 
 /// Tells of a change of this node's state and works it into the counts of the nodes above.
@@ -237,14 +238,15 @@ QString TreeNode::ToolTip() const
 {
     const QString strName = m_strName.toHtmlEscaped();
     QString strText;
-    if (m_kind == NodeKindChannel)
+    if (m_kind == NodeKindChannel) {
         strText = GroupTreeModel::tr("Number %1, id %2").arg(m_iNumber).arg(m_iId);
-    else if (m_kind == NodeKindDevice && !m_bEnabled)
+    } else if (m_kind == NodeKindDevice && !m_bEnabled) {
         strText = GroupTreeModel::tr("Id %1, switched off in the configuration").arg(m_iId);
-    else if (m_kind == NodeKindDevice && !m_bOnline)
+    } else if (m_kind == NodeKindDevice && !m_bOnline) {
         strText = GroupTreeModel::tr("Id %1, offline: it can be configured but does not answer").arg(m_iId);
-    else if (m_kind == NodeKindDevice)
+    } else if (m_kind == NodeKindDevice) {
         strText = GroupTreeModel::tr("Id %1").arg(m_iId);
+    }
     return strText.isEmpty() ? QStringLiteral("<p>%1</p>").arg(strName)
                              : QStringLiteral("<p>%1<br>%2</p>").arg(strName, strText.toHtmlEscaped());
 }

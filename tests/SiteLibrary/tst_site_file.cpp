@@ -205,10 +205,11 @@ void tst_site_file::anErrorNamesItsLine()
     QFETCH(const QString, reason);
 
     QByteArray text = soundSite;
-    if (line == 25)
+    if (line == 25) {
         text += "{}\n"; // the last row: something after the end, on the line behind it
-    else
+    } else {
         text.replace(text.indexOf(was), was.size(), is);
+    }
     Site site = MarkedSite();
     SiteFileError error;
     QVERIFY(!SiteFile::Parse(text, QStringLiteral("file.json"), site, error));
@@ -288,9 +289,10 @@ void tst_site_file::aCircleOfGroupsIsRefused()
 static QByteArray GroupChain(int iGroups)
 {
     QByteArray text = "{\"groups\":[\n{\"id\":1,\"name\":\"g\"}";
-    for (int i = 2; i <= iGroups; ++i)
+    for (int i = 2; i <= iGroups; ++i) {
         text += ",\n{\"id\":" + QByteArray::number(i) +
                 ",\"name\":\"g\",\"parent\":" + QByteArray::number(i - 1) + "}";
+    }
     return text + "],\"devices\":[]}";
 }
 
@@ -322,12 +324,13 @@ void tst_site_file::damagedFilesNeverCrash()
         for (int i = 0; i < iChanges && !text.isEmpty(); ++i) {
             const int iAt = random.bounded(text.size());
             const int iHow = random.bounded(3);
-            if (iHow == 0)
+            if (iHow == 0) {
                 text[iAt] = static_cast<char>(random.bounded(256));
-            else if (iHow == 1)
+            } else if (iHow == 1) {
                 text.truncate(iAt);
-            else
+            } else {
                 text.insert(iAt, text.mid(random.bounded(text.size()), random.bounded(30)));
+            }
         }
         Site site = MarkedSite();
         SiteFileError error;

@@ -25,10 +25,11 @@ public:
     bool IsExpanded(int32_t iKind, int64_t iId) const override { return set.contains({iKind, iId}); }
     void SetExpanded(int32_t iKind, int64_t iId, bool bExpanded) override
     {
-        if (bExpanded)
+        if (bExpanded) {
             set.insert({iKind, iId});
-        else
+        } else {
             set.remove({iKind, iId});
+        }
     }
     QSet<QPair<int32_t, int64_t>> set;
 };
@@ -120,7 +121,7 @@ public:
     }
     QString TakeLog()
     {
-        const QString strLog = log.join(QStringLiteral("; "));
+        QString strLog = log.join(QStringLiteral("; "));
         log.clear();
         return strLog;
     }

@@ -214,9 +214,10 @@ void tst_group_tree_model::everyTypeAndKindIsOfferedOrNot()
     const Tree tree(site, filter);
     for (int32_t iType = 0; iType <= 18; ++iType) {
         QCOMPARE(tree.Node(100 + iType, NodeKindDevice) != nullptr, iType != 16);
-        for (int32_t iKind = 0; iKind <= 6; ++iKind)
+        for (int32_t iKind = 0; iKind <= 6; ++iKind) {
             QCOMPARE(tree.Node(1000 + iType * 10 + iKind, NodeKindChannel) != nullptr,
                      iType != 16 && iKind == 4);
+        }
     }
 }
 
@@ -476,9 +477,10 @@ static Site RandomSite(QRandomGenerator& random)
             continue;
         QVector<ChannelInfo> channels;
         for (int iChannel = 0; iChannel < 5; ++iChannel) {
-            if (random.bounded(3) != 0)
+            if (random.bounded(3) != 0) {
                 channels << Channel(1000 + iDevice * 10 + iChannel, random.bounded(2) == 0 ? 6 : 3, iChannel,
                                     QStringLiteral("c%1").arg(random.bounded(100)));
+            }
         }
         std::shuffle(channels.begin(), channels.end(), random);
         DeviceInfo device =
@@ -714,14 +716,16 @@ void tst_group_tree_model::randomTicksAgreeWithAPlainCount()
         QVector<const QStandardItem*> below;
         Leaves(pNode, all, below);
         for (const QStandardItem* pLeaf : qAsConst(below)) {
-            if (bTick)
+            if (bTick) {
                 ticked.insert(pLeaf);
-            else
+            } else {
                 ticked.remove(pLeaf);
+            }
         }
-        for (const QStandardItem* pAny : qAsConst(nodes))
+        for (const QStandardItem* pAny : qAsConst(nodes)) {
             QVERIFY2(pAny->checkState() == PlainState(pAny, ticked),
                      qPrintable(QStringLiteral("seed %1 round %2").arg(iSeed).arg(iRound)));
+        }
     }
 }
 

@@ -134,7 +134,7 @@ void tst_group_tree_remove::administratorsAreOfferedRemovalOnDeviceRows()
     QMenu* pMenu = tree.MenuAt(100, NodeKindDevice);
     QVERIFY(pMenu);
     QCOMPARE(pMenu->actions().size(), 1);
-    QCOMPARE(pMenu->actions().first()->text(), QStringLiteral("Remove device"));
+    QCOMPARE(pMenu->actions().constFirst()->text(), QStringLiteral("Remove device"));
     pMenu->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!tree.MenuAt(102, NodeKindChannel));
@@ -164,7 +164,7 @@ void tst_group_tree_remove::aRefusedQuestionRemovesNothing()
     tree.ctrl->EnableRemoveDevice(true);
     const QSignalSpy removed(tree.ctrl.get(), &GroupTreeCtrl::SignalRemoveDevice);
     Answer answer(Refuse);
-    tree.MenuAt(100, NodeKindDevice)->actions().first()->trigger();
+    tree.MenuAt(100, NodeKindDevice)->actions().constFirst()->trigger();
     QTRY_VERIFY(answer.bAsked);
     QTRY_VERIFY(!QApplication::activeModalWidget());
     QCOMPARE(removed.count(), 0);
@@ -178,7 +178,7 @@ void tst_group_tree_remove::anAcceptedQuestionRemovesTheDevice()
     tree.ctrl->EnableRemoveDevice(true);
     QSignalSpy removed(tree.ctrl.get(), &GroupTreeCtrl::SignalRemoveDevice);
     Answer answer(Accept);
-    tree.MenuAt(100, NodeKindDevice)->actions().first()->trigger();
+    tree.MenuAt(100, NodeKindDevice)->actions().constFirst()->trigger();
     QTRY_COMPARE(removed.count(), 1);
     QCOMPARE(removed[0][0].value<int64_t>(), int64_t(100));
     QVERIFY(!tree.model.FindNode(100, NodeKindDevice));
@@ -218,7 +218,7 @@ void tst_group_tree_remove::theTreeMayGoWhileTheQuestionWaits()
         tree.ctrl.release()->deleteLater();
         pBox->reject();
     });
-    tree.MenuAt(100, NodeKindDevice)->actions().first()->trigger();
+    tree.MenuAt(100, NodeKindDevice)->actions().constFirst()->trigger();
     QTRY_VERIFY(answer.bAsked);
     QTRY_VERIFY(!guard);
     QCOMPARE(manager.GetDeviceIds().size(), 3);
@@ -234,7 +234,7 @@ void tst_group_tree_remove::theDeviceMayGoWhileTheQuestionWaits()
         manager.RemoveDevice(100);
         Accept(pBox);
     });
-    tree.MenuAt(100, NodeKindDevice)->actions().first()->trigger();
+    tree.MenuAt(100, NodeKindDevice)->actions().constFirst()->trigger();
     QTRY_VERIFY(answer.bAsked);
     QTRY_VERIFY(!QApplication::activeModalWidget());
     QCOMPARE(removed.count(), 1);

@@ -28,12 +28,14 @@ Site LargeSite()
     for (int i = 0; i < deviceCount; ++i) {
         const int64_t iDevice = iNext++;
         QVector<ChannelInfo> channels;
-        for (int iDoor = 1; iDoor <= 4; ++iDoor)
+        for (int iDoor = 1; iDoor <= 4; ++iDoor) {
             channels << Channel(iNext++, 6, iDoor,
                                 QStringLiteral("Door %1 of controller %2").arg(iDoor).arg(i));
-        for (int iOther = 1; iOther <= 16; ++iOther)
+        }
+        for (int iOther = 1; iOther <= 16; ++iOther) {
             channels << Channel(iNext++, iOther % 2 == 0 ? 3 : 4, iOther,
                                 QStringLiteral("Contact %1 of controller %2").arg(iOther).arg(i));
+        }
         site.devices << Device(iDevice, QStringLiteral("Controller %1").arg(i), 12, 1 + i % 100, channels);
     }
     return site;
