@@ -1,7 +1,10 @@
 #include "AlarmCtrl/QAlarmListItem.h"
 
+#include "platform/LXGUI/Metrics.h"
+#include "platform/LXGUI/Theme.h"
 #include "ui_QAlarmListItem.h"
 
+#include <QApplication>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -58,6 +61,18 @@ void QAlarmListItem::paintEvent(QPaintEvent* event)
     initStyleOption(&option);
     option.text = ElidedText();
     painter.drawControl(QStyle::CE_PushButton, option);
+    if (isChecked() && IsInFocusedView()) {
+        const int iHalf = LXGUI::FocusRingWidth / 2;
+        painter.setPen(QPen(LXGUI::Theme::Current().Colour(QStringLiteral("focus")), LXGUI::FocusRingWidth));
+        painter.drawRect(rect().adjusted(iHalf, iHalf, -iHalf, -iHalf));
+    }
+}
+
+// Entries take no focus themselves: the current one shows where the keys of its view go.
+bool QAlarmListItem::IsInFocusedView() const
+{
+    const QWidget* const pFocus = QApplication::focusWidget();
+    return pFocus != nullptr && pFocus->isAncestorOf(this);
 }
 
 void QAlarmListItem::resizeEvent(QResizeEvent* event)

@@ -31,6 +31,7 @@ protected:
 
 private:
     QString ElidedText() const;
+    bool IsInFocusedView() const;
 
     std::unique_ptr<Ui::QAlarmListItem> m_ui;
     int32_t m_iType = -1;

@@ -180,6 +180,24 @@ QList<QAbstractButton*> QAlarmListItemView::EntriesOnScreen(const QAbstractButto
     return entries;
 }
 
+void QAlarmListItemView::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    UpdateCurrentItem();
+}
+
+void QAlarmListItemView::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    UpdateCurrentItem();
+}
+
+void QAlarmListItemView::UpdateCurrentItem()
+{
+    if (QAbstractButton* const pCurrent = m_pGroup->checkedButton())
+        pCurrent->update();
+}
+
 QAlarmListItem* QAlarmListItemView::FindItem(const std::function<bool(const QAlarmListItem&)>& accept) const
 {
     const QList<QAbstractButton*> buttons = m_pGroup->buttons();

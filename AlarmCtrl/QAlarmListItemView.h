@@ -48,9 +48,12 @@ public Q_SLOTS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     QList<QAbstractButton*> EntriesOnScreen(const QAbstractButton* pCurrent) const;
+    void UpdateCurrentItem();
     QAlarmListItem* FindItem(const std::function<bool(const QAlarmListItem&)>& accept) const;
     QAlarmListItem* AppendItem(QVBoxLayout* pLayout, const QString& strText, int iType);
 

@@ -1,6 +1,9 @@
 #include "tests/AlarmCtrl_list/ListViewFixture.h"
 
+#include "platform/LXGUI/Theme.h"
+
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QTest>
 #include <QVBoxLayout>
@@ -239,6 +242,32 @@ private Q_SLOTS:
         QTest::keyClick(&list->view, Qt::Key_Down);
         QCOMPARE(parent.m_keys.size(), 2);
         QCOMPARE(list->changes.count(), 1);
+    }
+
+    void theCurrentEntryShowsWhereTheKeysGo()
+    {
+        ListViewFixture list;
+        QPushButton other;
+        Show(list, 3);
+        other.show();
+        const QRgb focus = LXGUI::Theme::Current().Colour(QStringLiteral("focus")).rgb();
+        const auto ringOf = [&list](int iEntry) {
+            QAlarmListItem* const pEntry = list.Entry(iEntry);
+            return pEntry->grab().toImage().pixel(pEntry->width() / 2, 0);
+        };
+        list.view.activateWindow();
+        list.view.setFocus();
+        QTRY_VERIFY(list.view.hasFocus());
+        QCOMPARE(ringOf(0), focus);
+        QVERIFY(ringOf(1) != focus);
+        Press(list, Qt::Key_Down);
+        QCOMPARE(ringOf(1), focus);
+        QVERIFY(ringOf(0) != focus);
+
+        other.activateWindow();
+        other.setFocus();
+        QTRY_VERIFY(other.hasFocus());
+        QVERIFY(ringOf(1) != focus);
     }
 
 private:
