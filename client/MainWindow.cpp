@@ -251,7 +251,7 @@ bool MainWindow::event(QEvent* event)
         return QMainWindow::event(event);
     }
     const bool bKnown =
-        static_cast<LXHostMessageEvent*>(event)->GetMessage() == QCommon::MessageOpenMailSettings;
+        static_cast<LXHostMessageEvent*>(event)->GetMessageNumber() == QCommon::MessageOpenMailSettings;
     if (bKnown) {
         OpenMailSettings();
     }

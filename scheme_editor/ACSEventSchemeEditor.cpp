@@ -457,7 +457,7 @@ void ACSEventSchemeEditor::customEvent(QEvent* event)
     if (event->type() != LXRecoverEvent::RecoverEventType)
         return;
     const auto* const pRecover = dynamic_cast<LXRecoverEvent*>(event);
-    if (pRecover == nullptr || pRecover->GetMessage() != LXRecoverEvent::MessageRecover ||
+    if (pRecover == nullptr || pRecover->GetMessageNumber() != LXRecoverEvent::MessageRecover ||
         QSystem::GetInstance()->GetState() != QSystem::StateClosing || pRecover->GetResultSlot() == nullptr) {
         return;
     }

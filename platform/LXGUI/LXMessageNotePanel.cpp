@@ -155,9 +155,13 @@ void LXMessageNotePanel::showEvent(QShowEvent* event)
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
     if (IsMotionWelcome(this)) {
-        connect(
-            Fade(0.0, 1.0), &QPropertyAnimation::finished, this, [this] { setGraphicsEffect(nullptr); },
-            Qt::QueuedConnection);
+        // The end may arrive after the note was clicked away: the fade-out must keep its effect then.
+        const auto onShown = [this] {
+            if (!m_bLeaving) {
+                setGraphicsEffect(nullptr);
+            }
+        };
+        connect(Fade(0.0, 1.0), &QPropertyAnimation::finished, this, onShown, Qt::QueuedConnection);
     }
 }
 

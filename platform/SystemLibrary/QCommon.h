@@ -17,7 +17,7 @@ public:
     ~LXHostMessageEvent() override;
     static QEvent::Type EventType(); ///< registered on first use
 
-    int GetMessage() const { return m_iMessage; }
+    int GetMessageNumber() const { return m_iMessage; }
     quintptr GetWParam() const { return m_wParam; }
     quintptr GetLParam() const { return m_lParam; }
 

@@ -46,7 +46,7 @@ public:
     LXRecoverEvent(int32_t iMessage, int32_t iWindowNumber, std::unique_ptr<QRecoverSubWndBase>* pResult);
     ~LXRecoverEvent() override;
 
-    int32_t GetMessage() const { return m_iMessage; }
+    int32_t GetMessageNumber() const { return m_iMessage; }
     int32_t GetWindowNumber() const { return m_iWindowNumber; }
     std::unique_ptr<QRecoverSubWndBase>* GetResultSlot() const { return m_pResult; }
 

@@ -32,7 +32,7 @@ protected:
         if (event->type() != LXHostMessageEvent::EventType())
             return QObject::event(event);
         const auto message = static_cast<LXHostMessageEvent*>(event);
-        m_messages.append({message->GetMessage(), message->GetWParam(), message->GetLParam()});
+        m_messages.append({message->GetMessageNumber(), message->GetWParam(), message->GetLParam()});
         event->setAccepted(m_bAccept);
         return m_bAccept;
     }

@@ -72,7 +72,7 @@ private Q_SLOTS:
         const LXRecoverEvent event(106, 5, &result);
         QCOMPARE(static_cast<int>(event.type()), 1001);
         QVERIFY(event.type() >= QEvent::User && event.type() <= QEvent::MaxUser);
-        QCOMPARE(event.GetMessage(), 106);
+        QCOMPARE(event.GetMessageNumber(), 106);
         QCOMPARE(event.GetWindowNumber(), 5);
         QCOMPARE(event.GetResultSlot(), &result);
     }

@@ -139,7 +139,7 @@ bool MainWindowDouble::event(QEvent* event)
     if (event->type() != LXHostMessageEvent::EventType())
         return QObject::event(event);
     const auto* const pMessage = static_cast<LXHostMessageEvent*>(event);
-    messages.append({pMessage->GetMessage(), pMessage->GetWParam(), pMessage->GetLParam()});
+    messages.append({pMessage->GetMessageNumber(), pMessage->GetWParam(), pMessage->GetLParam()});
     event->accept();
     if (answer)
         answer();
