@@ -393,11 +393,17 @@ void tst_site_device_manager::aLargeSiteIsEmptiedOneByOneSoon()
             manager.RemoveDevice(10 * i + 1);
         return qMax<qint64>(1, timer.nsecsElapsed());
     };
-    emptied(500);
-    const qint64 iSmall = emptied(1000);
-    const qint64 iLarge = emptied(16000);
-    QVERIFY2(iLarge < 100 * iSmall, // sixteen times the work; a list shifted each time would take 256 times
-             qPrintable(QStringLiteral("%1 ns, %2 ns").arg(iSmall).arg(iLarge)));
+    // The best of several: a machine busy with something else lengthens single runs.
+    const auto best = [&emptied](int iDevices) {
+        qint64 iBest = emptied(iDevices);
+        for (int i = 0; i < 4; ++i)
+            iBest = qMin(iBest, emptied(iDevices));
+        return iBest;
+    };
+    const qint64 iSmall = best(1000);
+    const qint64 iLarge = best(32000);
+    // 32 times the work, and dearer memory; a list gone through for each removal would take 1024 times.
+    QVERIFY2(iLarge < 300 * iSmall, qPrintable(QStringLiteral("%1 ns, %2 ns").arg(iSmall).arg(iLarge)));
 }
 
 QTEST_GUILESS_MAIN(tst_site_device_manager)
