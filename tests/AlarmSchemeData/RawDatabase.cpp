@@ -41,13 +41,15 @@ QString RawDatabase::Value(const QString& strSql)
     return Rows(strSql).value(0, QStringLiteral("no row"));
 }
 
-QStringList RawDatabase::Tables()
+const QStringList& RawDatabase::Tables()
 {
-    return {QStringLiteral("AlarmUniqueID"),      QStringLiteral("AlarmBaseInfo"),
-            QStringLiteral("AlarmSplitInfo"),     QStringLiteral("AlarmLinkVideoID"),
-            QStringLiteral("AlarmLinkVideoInfo"), QStringLiteral("AlarmLinkAlarmOutID"),
-            QStringLiteral("AlarmLinkDoorInfo"),  QStringLiteral("AlarmLinkAlarmOutInfo"),
-            QStringLiteral("BaseInfo"),           QStringLiteral("AlarmDefenceTimeInfo")};
+    static const QStringList tables = {
+        QStringLiteral("AlarmUniqueID"),      QStringLiteral("AlarmBaseInfo"),
+        QStringLiteral("AlarmSplitInfo"),     QStringLiteral("AlarmLinkVideoID"),
+        QStringLiteral("AlarmLinkVideoInfo"), QStringLiteral("AlarmLinkAlarmOutID"),
+        QStringLiteral("AlarmLinkDoorInfo"),  QStringLiteral("AlarmLinkAlarmOutInfo"),
+        QStringLiteral("BaseInfo"),           QStringLiteral("AlarmDefenceTimeInfo")};
+    return tables;
 }
 
 QStringList RawDatabase::Content()

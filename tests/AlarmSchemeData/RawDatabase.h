@@ -25,7 +25,7 @@ public:
     /// of the last change.
     QStringList Content();
 
-    static QStringList Tables();
+    static const QStringList& Tables();
 
 private:
     sqlite3* m_pHandle = nullptr;
