@@ -39,7 +39,7 @@ class EveryConnection
 public:
     explicit EveryConnection(const QString& strSql)
     {
-        s_sql = strSql.toUtf8();
+        Sql() = strSql.toUtf8();
         sqlite3_auto_extension(reinterpret_cast<void (*)()>(&EveryConnection::OnOpen));
     }
     ~EveryConnection()
@@ -52,9 +52,13 @@ public:
 private:
     static int OnOpen(sqlite3* pDatabase, char**, const void*)
     {
-        return sqlite3_exec(pDatabase, s_sql.constData(), nullptr, nullptr, nullptr);
+        return sqlite3_exec(pDatabase, Sql().constData(), nullptr, nullptr, nullptr);
     }
-    static inline QByteArray s_sql;
+    static QByteArray& Sql()
+    {
+        static QByteArray sql;
+        return sql;
+    }
 };
 
 /// What a client that starts now would see.
