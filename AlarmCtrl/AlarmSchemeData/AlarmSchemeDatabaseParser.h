@@ -92,6 +92,10 @@ public:
 
     /// The whole map; stored schemes that it does not hold are disabled. -1 when closed or null.
     int32_t SaveAll(const AlarmInfoMap* pMap, const GoOn& goOn = {});
+    /// All six parts of every scheme of the map, in key order; stored schemes that it does not hold stay as
+    /// they are. -1 when closed. A caller that saves what has changed uses this within a transaction of its
+    /// own, together with DisableAllSchemesBut; few schemes cost little, however many are stored.
+    int32_t SaveSchemes(const AlarmInfoMap& changed, const GoOn& goOn = {});
     int32_t DeleteSchemes(const QList<AlarmSourceKey>& keys);       ///< -1 for an empty list
     int32_t DeleteAllSchemesBut(const QList<AlarmSourceKey>& keys); ///< -1 for an empty list
     int32_t DisableAllSchemesBut(const AlarmInfoMap& map);
@@ -133,6 +137,8 @@ private:
     void SaveAlarmOutLink(int64_t iSchemeId, const AlarmLinkAlarmOut& link);
     void SaveVideoLink(int64_t iSchemeId, int32_t iWindow, const AlarmLinkVideo& link);
     void SaveSplit(int64_t iSchemeId, const AlarmVideoSplit& split);
+    /// All six parts, statement by statement.
+    void SaveScheme(const AlarmSourceKey& key, const AlarmInfo& info);
     void Stamp();
 
     using KeyTest = std::function<bool(const AlarmSourceKey&)>;

@@ -173,22 +173,34 @@ void AlarmSchemeDatabaseParser::SaveSplit(int64_t iSchemeId, const AlarmVideoSpl
     }
 }
 
+void AlarmSchemeDatabaseParser::SaveScheme(const AlarmSourceKey& key, const AlarmInfo& info)
+{
+    SaveOpen(key, info.bOpen);
+    SaveNotify(key, AlarmNotifyInfo{info.bOpenSound, info.bEmapTwinkle, info.bSendEmail});
+    SaveVideo(key, info.videoSplit);
+    SaveDoor(key, info.listDoor);
+    SaveAlarmOut(key, info.listAlarmOut);
+    SaveDefenceTime(key, info.defenceTime);
+}
+
 int32_t AlarmSchemeDatabaseParser::SaveAll(const AlarmInfoMap* pMap, const GoOn& goOn)
 {
     if (m_pDatabase == nullptr || pMap == nullptr)
         return -1;
     BeginTransaction();
     DisableAllSchemesBut(*pMap);
-    for (auto entry = pMap->cbegin(); entry != pMap->cend() && (!goOn || goOn()); ++entry) {
-        const AlarmSourceKey& key = entry.key();
-        const AlarmInfo& info = entry.value();
-        SaveOpen(key, info.bOpen);
-        SaveNotify(key, AlarmNotifyInfo{info.bOpenSound, info.bEmapTwinkle, info.bSendEmail});
-        SaveVideo(key, info.videoSplit);
-        SaveDoor(key, info.listDoor);
-        SaveAlarmOut(key, info.listAlarmOut);
-        SaveDefenceTime(key, info.defenceTime);
-    }
+    SaveSchemes(*pMap, goOn);
+    EndTransaction();
+    return 0;
+}
+
+int32_t AlarmSchemeDatabaseParser::SaveSchemes(const AlarmInfoMap& changed, const GoOn& goOn)
+{
+    if (m_pDatabase == nullptr)
+        return -1;
+    BeginTransaction();
+    for (auto entry = changed.cbegin(); entry != changed.cend() && (!goOn || goOn()); ++entry)
+        SaveScheme(entry.key(), entry.value());
     Stamp();
     EndTransaction();
     return 0;
