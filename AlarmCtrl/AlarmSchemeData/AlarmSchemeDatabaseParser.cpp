@@ -1,5 +1,6 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeFileCheck.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeQuery.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatementText.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
@@ -45,6 +46,7 @@ AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser()
 }
 
 AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(const ConnectionSetup& setup)
+    : m_fileCheck(std::make_unique<AlarmSchemeFileCheck>())
 {
     Open(setup);
 }
@@ -96,6 +98,8 @@ void AlarmSchemeDatabaseParser::Open(const ConnectionSetup& setup)
     BeginTransaction();
     CreateSchema();
     EndTransaction();
+    if (m_pDatabase != nullptr)
+        AlarmSchemeFileCheck::AddMissingIndexes(m_pDatabase);
 }
 
 void AlarmSchemeDatabaseParser::Close()
@@ -191,6 +195,13 @@ void AlarmSchemeDatabaseParser::CountFailure(int32_t iCode, const QString& strMe
         m_firstFailure = AlarmSchemeStatementFailure{iCode, strMessage};
 }
 
+void AlarmSchemeDatabaseParser::CountAndLogFailure()
+{
+    const QByteArray message(sqlite3_errmsg(m_pDatabase));
+    CountFailure(sqlite3_extended_errcode(m_pDatabase), QString::fromUtf8(message));
+    LogFailure(message.constData());
+}
+
 AlarmSchemeQuery AlarmSchemeDatabaseParser::Prepare(const QString& strSql)
 {
     if (m_pDatabase == nullptr)
@@ -227,6 +238,11 @@ bool AlarmSchemeDatabaseParser::NextRow(AlarmSchemeQuery& query)
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         CountFailure(sqlite3_extended_errcode(m_pDatabase), QString::fromUtf8(sqlite3_errmsg(m_pDatabase)));
     return result == SQLITE_ROW;
+}
+
+void AlarmSchemeDatabaseParser::SetClock(const Clock& clock)
+{
+    m_clock = clock;
 }
 
 void AlarmSchemeDatabaseParser::BeginTransaction()

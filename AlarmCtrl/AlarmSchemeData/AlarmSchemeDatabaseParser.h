@@ -9,10 +9,14 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <optional>
+#include <vector>
 
+class QDateTime;
 struct sqlite3;
 
+class AlarmSchemeFileCheck;
 class AlarmSchemeQuery;
 class StatementArgument;
 
@@ -41,6 +45,8 @@ public:
     using ConnectionSetup = std::function<bool(sqlite3*)>;
     /// Is asked before each scheme of a long write; false ends the write early.
     using GoOn = std::function<bool()>;
+    /// The local time that the file is stamped with.
+    using Clock = std::function<QDateTime()>;
 
     AlarmSchemeDatabaseParser();
     explicit AlarmSchemeDatabaseParser(const ConnectionSetup& setup);
@@ -63,6 +69,8 @@ public:
     /// Statements that failed since the store was made, the expected duplicate column at opening not counted.
     /// A text that must never reach SQLite (it holds a double quote or a NUL) counts too.
     int64_t FailedStatements() const;
+    /// The clock of the stamps, the computer's unless another is set here.
+    void SetClock(const Clock& clock);
     /// The first failure since the last call, a failed opening included; nothing when there was none.
     std::optional<AlarmSchemeStatementFailure> TakeFirstFailure();
 
@@ -115,10 +123,17 @@ private:
                                    std::initializer_list<StatementArgument> arguments);
     bool NextRow(AlarmSchemeQuery& query);
     void CountFailure(int32_t iCode, const QString& strMessage);
+    /// The connection's last failure, of a statement that ran otherwise than through ExecOnce.
+    void CountAndLogFailure();
     void RefuseText();
 
     int32_t ReadOpen(const AlarmSourceKey& key, AlarmInfo& out, bool* pFound);
     int32_t ReadDefenceTime(const AlarmSourceKey& key, AlarmInfo& out, bool* pFound);
+
+    /// All parts of one scheme into a fresh record.
+    void ReadScheme(const AlarmSourceKey& key, AlarmInfo& info);
+    /// Every stored scheme, statement by statement, into an empty map.
+    int32_t ReadSchemes(AlarmInfoMap& map);
 
     std::optional<int64_t> FirstId(const char* szTemplate,
                                    std::initializer_list<StatementArgument> arguments);
@@ -140,15 +155,22 @@ private:
     /// All six parts, statement by statement.
     void SaveScheme(const AlarmSourceKey& key, const AlarmInfo& info);
     void Stamp();
+    /// Writes in one pass for as long as that goes; leaves the entry at the first scheme that is
+    /// still to be written.
+    void SaveInOnePass(AlarmInfoMap::const_iterator& entry, AlarmInfoMap::const_iterator end,
+                       const GoOn& goOn);
 
     using KeyTest = std::function<bool(const AlarmSourceKey&)>;
     /// Runs the statement over the ids of all stored schemes that pass the test, then stamps; without any
     /// such scheme nothing is run.
     int32_t ExecForSchemes(const char* szTemplate, const KeyTest& test);
+    void ExecForIds(const char* szTemplate, const std::vector<int64_t>& ids);
 
     QString m_strPath;
     sqlite3* m_pDatabase = nullptr;
     int32_t m_iDepth = 0;
     int64_t m_iFailed = 0;
     std::optional<AlarmSchemeStatementFailure> m_firstFailure;
+    Clock m_clock;
+    std::unique_ptr<AlarmSchemeFileCheck> m_fileCheck;
 };

@@ -1,30 +1,24 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeFileCheck.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeLoadRoad.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeQuery.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatementText.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeTimeRows.h"
 
-#include <limits>
+#include <QSet>
 
 namespace {
 
-/// One row of the week plan as a region of a day. The numbers are judged in 64 bits: cut to 32 they might
-/// look sound.
-bool IsSoundRegion(int64_t iDay, int64_t iBegin, int64_t iEnd)
+/// Equal texts as one: schemes name few sources and outputs, and many schemes name the same.
+class TextPool
 {
-    return iDay >= 1 && iDay <= AlarmWeek::DayCount && iBegin >= 0 && iBegin <= iEnd &&
-           iEnd <= std::numeric_limits<int32_t>::max();
-}
+public:
+    void Intern(QString& strText) { strText = *m_texts.insert(strText); }
 
-AlarmWeek EmptyWeek()
-{
-    static const AlarmWeek empty = [] {
-        AlarmWeek week;
-        for (int day = 0; day < AlarmWeek::DayCount; ++day)
-            week[day].clear();
-        return week;
-    }();
-    return empty;
-}
+private:
+    QSet<QString> m_texts;
+};
 
 } // namespace
 
@@ -112,7 +106,7 @@ int32_t AlarmSchemeDatabaseParser::ReadDefenceTime(const AlarmSourceKey& key, Al
 
 int32_t AlarmSchemeDatabaseParser::ReadDefenceTime(const AlarmSourceKey& key, AlarmInfo& out, bool* pFound)
 {
-    AlarmWeek week = EmptyWeek();
+    AlarmWeek week = EmptyAlarmWeek();
     AlarmSchemeQuery query =
         PrepareFilled(SchemeStatements::SelectDefenceTime, {key.strEventSource, key.AlarmType});
     while (NextRow(query)) {
@@ -121,7 +115,7 @@ int32_t AlarmSchemeDatabaseParser::ReadDefenceTime(const AlarmSourceKey& key, Al
         const int64_t day = query.Int64(0);
         const int64_t begin = query.Int64(1);
         const int64_t end = query.Int64(2);
-        if (!IsSoundRegion(day, begin, end))
+        if (!IsSoundTimeRow(day, begin, end))
             continue;
         week[static_cast<int>(day - 1)].append(
             AlarmTimeRegion{static_cast<int32_t>(begin), static_cast<int32_t>(end)});
@@ -220,34 +214,59 @@ int32_t AlarmSchemeDatabaseParser::ReadVideo(const AlarmSourceKey& key, AlarmInf
     return 0;
 }
 
+void AlarmSchemeDatabaseParser::ReadScheme(const AlarmSourceKey& key, AlarmInfo& info)
+{
+    bool base = true;
+    bool time = false;
+    ReadOpen(key, info, &base);
+    ReadDefenceTime(key, info, &time);
+    // A base row without any time row is a week that is never armed; a key alone is a fresh scheme.
+    if (!base && !time)
+        info.defenceTime = AlarmWeek();
+    ReadNotify(key, info);
+    ReadAlarmOut(key, info);
+    ReadDoor(key, info);
+    ReadVideo(key, info);
+}
+
+int32_t AlarmSchemeDatabaseParser::ReadSchemes(AlarmInfoMap& map)
+{
+    const std::optional<QList<StoredScheme>> schemes = ReadStoredSchemes();
+    if (!schemes)
+        return -1;
+    TextPool pool;
+    for (const StoredScheme& scheme : *schemes) {
+        if (map.contains(scheme.key))
+            continue;
+        AlarmSourceKey key = scheme.key;
+        pool.Intern(key.strEventSource);
+        AlarmInfo& info = *map.insert(key, AlarmInfo());
+        ReadScheme(key, info);
+        for (AlarmLinkAlarmOut& link : info.listAlarmOut)
+            pool.Intern(link.strLinkAlarmID);
+        for (AlarmLinkVideo& link : info.videoSplit.videoLinks)
+            pool.Intern(link.strLinkDevID);
+    }
+    return 0;
+}
+
 int32_t AlarmSchemeDatabaseParser::ReadAll(AlarmInfoMap* pMap)
 {
     if (m_pDatabase == nullptr || pMap == nullptr)
         return -1;
     BeginTransaction();
     pMap->clear();
-    const std::optional<QList<StoredScheme>> schemes = ReadStoredSchemes();
-    if (!schemes) {
-        EndTransaction();
-        return -1;
+    bool read = false;
+    if (m_fileCheck->IsKnown(m_pDatabase)) {
+        const auto literally = [this](const AlarmSourceKey& key, AlarmInfo& info) { ReadScheme(key, info); };
+        read = AlarmSchemeLoadRoad(m_pDatabase, *pMap).Load(literally);
     }
-    for (const StoredScheme& scheme : *schemes) {
-        const AlarmSourceKey& key = scheme.key;
-        if (pMap->contains(key))
-            continue;
-        AlarmInfo& info = *pMap->insert(key, AlarmInfo());
-        bool base = true;
-        bool time = false;
-        ReadOpen(key, info, &base);
-        ReadDefenceTime(key, info, &time);
-        // A base row without any time row is a week that is never armed; a key alone is a fresh scheme.
-        if (!base && !time)
-            info.defenceTime = AlarmWeek();
-        ReadNotify(key, info);
-        ReadAlarmOut(key, info);
-        ReadDoor(key, info);
-        ReadVideo(key, info);
+    int32_t status = 0;
+    if (!read) {
+        // Statement by statement, so that what can be read of a damaged file is read.
+        pMap->clear();
+        status = ReadSchemes(*pMap);
     }
     EndTransaction();
-    return 0;
+    return status;
 }

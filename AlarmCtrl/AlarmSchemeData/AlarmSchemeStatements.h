@@ -185,4 +185,119 @@ inline constexpr char IdSeparator[] = " ,";
 inline constexpr char Stamp[] = "update baseinfo set ModifyTime = \"%1\"";
 inline constexpr char StampFormat[] = "yyyy/M/d hh:mm:ss";
 
+// Indexes, named by what they find. Rows of one scheme come out of them in the order of their ids, as out of
+// the table itself. There is none on the ids of linked outputs and channels: the rows would come in another
+// order, and one output that many schemes share would be gone through for each of them.
+
+inline constexpr char IndexOfKey[] = "AlarmUniqueID_ByKey";
+inline constexpr char CreateIndexOfKey[] =
+    "create index if not exists AlarmUniqueID_ByKey on AlarmUniqueID(strEventSource, AlarmType)";
+inline constexpr char IndexOfVideoText[] = "AlarmLinkVideoID_ByText";
+inline constexpr char CreateIndexOfVideoText[] =
+    "create index if not exists AlarmLinkVideoID_ByText on AlarmLinkVideoID(strLinkDevID)";
+inline constexpr char IndexOfAlarmOutText[] = "AlarmLinkAlarmOutID_ByText";
+inline constexpr char CreateIndexOfAlarmOutText[] =
+    "create index if not exists AlarmLinkAlarmOutID_ByText on AlarmLinkAlarmOutID(strLinkAlarmID)";
+inline constexpr char IndexOfBase[] = "AlarmBaseInfo_ByScheme";
+inline constexpr char CreateIndexOfBase[] =
+    "create index if not exists AlarmBaseInfo_ByScheme on AlarmBaseInfo(AlarmUniqueID)";
+inline constexpr char IndexOfSplit[] = "AlarmSplitInfo_ByScheme";
+inline constexpr char CreateIndexOfSplit[] =
+    "create index if not exists AlarmSplitInfo_ByScheme on AlarmSplitInfo(AlarmUniqueID)";
+inline constexpr char IndexOfVideo[] = "AlarmLinkVideoInfo_ByScheme";
+inline constexpr char CreateIndexOfVideo[] =
+    "create index if not exists AlarmLinkVideoInfo_ByScheme on AlarmLinkVideoInfo(AlarmUniqueID)";
+inline constexpr char IndexOfDoor[] = "AlarmLinkDoorInfo_ByScheme";
+inline constexpr char CreateIndexOfDoor[] =
+    "create index if not exists AlarmLinkDoorInfo_ByScheme on AlarmLinkDoorInfo(AlarmUniqueID)";
+inline constexpr char IndexOfAlarmOut[] = "AlarmLinkAlarmOutInfo_ByScheme";
+inline constexpr char CreateIndexOfAlarmOut[] =
+    "create index if not exists AlarmLinkAlarmOutInfo_ByScheme on AlarmLinkAlarmOutInfo(AlarmUniqueID)";
+inline constexpr char IndexOfDefenceTime[] = "AlarmDefenceTimeInfo_ByScheme";
+inline constexpr char CreateIndexOfDefenceTime[] =
+    "create index if not exists AlarmDefenceTimeInfo_ByScheme on AlarmDefenceTimeInfo(AlarmUniqueID)";
+
+// Full load in one pass: each table once, in the order of its rows, the owning scheme first
+
+inline constexpr char ScanKeys[] = "select AlarmUniqueID, strEventSource, AlarmType from AlarmUniqueID "
+                                   "order by strEventSource, AlarmType, AlarmUniqueID";
+inline constexpr char ScanVideoTexts[] =
+    "select AlarmLinkVideoID, strLinkDevID from AlarmLinkVideoID order by AlarmLinkVideoID";
+inline constexpr char ScanAlarmOutTexts[] =
+    "select AlarmLinkAlarmOutID, strLinkAlarmID from AlarmLinkAlarmOutID order by AlarmLinkAlarmOutID";
+inline constexpr char ScanBase[] =
+    "select AlarmUniqueID, bOpen, bOpenSound, bEmapTwinkle, bSendEmail, SplitRow, SplitCloum, SplitCount "
+    "from AlarmBaseInfo order by id";
+inline constexpr char ScanDefenceTime[] =
+    "select AlarmUniqueID, Day, Begin, End from AlarmDefenceTimeInfo order by id";
+inline constexpr char ScanAlarmOut[] =
+    "select AlarmUniqueID, AlarmLinkAlarmOutID, bAutoOpen, Time from AlarmLinkAlarmOutInfo order by id";
+inline constexpr char ScanDoor[] =
+    "select AlarmUniqueID, AlarmLinkDoorID, bAlwaysOpen from AlarmLinkDoorInfo order by id";
+inline constexpr char ScanSplit[] =
+    "select AlarmUniqueID, windowID, bEnable, iCombine, X1, X2, Y1, Y2 from AlarmSplitInfo order by id";
+inline constexpr char ScanVideo[] =
+    "select AlarmUniqueID, AlarmLinkVideoID, WindowID, bOpen, bRecord, Preposition, StreamType, Time "
+    "from AlarmLinkVideoInfo order by id";
+
+// Save in one pass: compiled once, bound for each row
+
+inline constexpr char FindScheme[] =
+    "select AlarmUniqueID from AlarmUniqueID where strEventSource = ?1 and AlarmType = ?2 "
+    "order by AlarmUniqueID limit 1";
+inline constexpr char AddScheme[] = "insert into AlarmUniqueID(strEventSource, AlarmType) values(?1, ?2)";
+inline constexpr char FindVideoText[] =
+    "select AlarmLinkVideoID from AlarmLinkVideoID where strLinkDevID = ?1 order by AlarmLinkVideoID limit 1";
+inline constexpr char AddVideoText[] = "insert into AlarmLinkVideoID(strLinkDevID) values(?1)";
+inline constexpr char FindAlarmOutText[] = "select AlarmLinkAlarmOutID from AlarmLinkAlarmOutID "
+                                           "where strLinkAlarmID = ?1 order by AlarmLinkAlarmOutID limit 1";
+inline constexpr char AddAlarmOutText[] = "insert into AlarmLinkAlarmOutID(strLinkAlarmID) values(?1)";
+
+inline constexpr char FindBase[] =
+    "select bOpen, bOpenSound, bEmapTwinkle, bSendEmail, SplitRow, SplitCloum, SplitCount "
+    "from AlarmBaseInfo where AlarmUniqueID = ?1";
+inline constexpr char AddBase[] =
+    "insert into AlarmBaseInfo(AlarmUniqueID, bOpen, bOpenSound, bEmapTwinkle, bSendEmail, SplitRow, "
+    "SplitCloum, SplitCount) values(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)";
+inline constexpr char ChangeBase[] =
+    "update AlarmBaseInfo set bOpen = ?2, bOpenSound = ?3, bEmapTwinkle = ?4, bSendEmail = ?5, "
+    "SplitRow = ?6, SplitCloum = ?7, SplitCount = ?8 where AlarmUniqueID = ?1";
+
+inline constexpr char FindCells[] =
+    "select id, windowID, bEnable, iCombine, X1, X2, Y1, Y2 from AlarmSplitInfo where AlarmUniqueID = ?1";
+inline constexpr char AddCell[] =
+    "insert into AlarmSplitInfo(AlarmUniqueID, windowID, bEnable, iCombine, X1, X2, Y1, Y2) "
+    "values(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)";
+inline constexpr char ChangeCell[] =
+    "update AlarmSplitInfo set bEnable = ?2, iCombine = ?3, X1 = ?4, X2 = ?5, Y1 = ?6, Y2 = ?7 where id = ?1";
+
+inline constexpr char ClearVideo[] = "delete from AlarmLinkVideoInfo where AlarmUniqueID = ?1";
+inline constexpr char AddVideo[] =
+    "insert into AlarmLinkVideoInfo(AlarmUniqueID, WindowID, AlarmLinkVideoID, bOpen, bRecord, Preposition, "
+    "StreamType, Time) values(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)";
+inline constexpr char ClearDoor[] = "delete from AlarmLinkDoorInfo where AlarmUniqueID = ?1";
+inline constexpr char AddDoor[] =
+    "insert into AlarmLinkDoorInfo(AlarmUniqueID, AlarmLinkDoorID, bAlwaysOpen) values(?1, ?2, ?3)";
+inline constexpr char ClearAlarmOut[] = "delete from AlarmLinkAlarmOutInfo where AlarmUniqueID = ?1";
+inline constexpr char AddAlarmOut[] =
+    "insert into AlarmLinkAlarmOutInfo(AlarmUniqueID, AlarmLinkAlarmOutID, bAutoOpen, Time) "
+    "values(?1, ?2, ?3, ?4)";
+inline constexpr char ClearDefenceTime[] = "delete from AlarmDefenceTimeInfo where AlarmUniqueID = ?1";
+inline constexpr char AddRegion[] =
+    "insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(?1, ?2, ?3, ?4)";
+/// As many regions as a fresh week has.
+inline constexpr char AddSevenRegions[] =
+    "insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(?1, ?2, ?3, ?4), "
+    "(?1, ?5, ?6, ?7), (?1, ?8, ?9, ?10), (?1, ?11, ?12, ?13), (?1, ?14, ?15, ?16), (?1, ?17, ?18, ?19), "
+    "(?1, ?20, ?21, ?22)";
+
+// The last id that was given to a scheme, and the greatest that rows of a part name
+inline constexpr char LastSchemeId[] = "select seq from main.sqlite_sequence where name = 'AlarmUniqueID'";
+inline constexpr char GreatestBaseOwner[] = "select max(AlarmUniqueID) from AlarmBaseInfo";
+inline constexpr char GreatestSplitOwner[] = "select max(AlarmUniqueID) from AlarmSplitInfo";
+inline constexpr char GreatestVideoOwner[] = "select max(AlarmUniqueID) from AlarmLinkVideoInfo";
+inline constexpr char GreatestDoorOwner[] = "select max(AlarmUniqueID) from AlarmLinkDoorInfo";
+inline constexpr char GreatestAlarmOutOwner[] = "select max(AlarmUniqueID) from AlarmLinkAlarmOutInfo";
+inline constexpr char GreatestDefenceTimeOwner[] = "select max(AlarmUniqueID) from AlarmDefenceTimeInfo";
+
 } // namespace SchemeStatements

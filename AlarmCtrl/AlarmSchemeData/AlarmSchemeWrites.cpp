@@ -1,10 +1,12 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeFileCheck.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeKeyScan.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeSaveRoad.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatementText.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
 
 #include <QDateTime>
 #include <QLocale>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -44,7 +46,7 @@ void AlarmSchemeDatabaseParser::EnsureBaseRow(int64_t iSchemeId)
 void AlarmSchemeDatabaseParser::Stamp()
 {
     // The C locale, whatever the user's: other programs read this text.
-    const QString now = QLocale::c().toString(QDateTime::currentDateTime(),
+    const QString now = QLocale::c().toString(m_clock ? m_clock() : QDateTime::currentDateTime(),
                                               QString::fromLatin1(SchemeStatements::StampFormat));
     ExecFilled(SchemeStatements::Stamp, {now});
 }
@@ -199,11 +201,38 @@ int32_t AlarmSchemeDatabaseParser::SaveSchemes(const AlarmInfoMap& changed, cons
     if (m_pDatabase == nullptr)
         return -1;
     BeginTransaction();
-    for (auto entry = changed.cbegin(); entry != changed.cend() && (!goOn || goOn()); ++entry)
+    auto entry = changed.cbegin();
+    if (m_fileCheck->IsKnownForWriting(m_pDatabase))
+        SaveInOnePass(entry, changed.cend(), goOn);
+    for (; entry != changed.cend() && (!goOn || goOn()); ++entry)
         SaveScheme(entry.key(), entry.value());
     Stamp();
     EndTransaction();
     return 0;
+}
+
+void AlarmSchemeDatabaseParser::SaveInOnePass(AlarmInfoMap::const_iterator& entry,
+                                              AlarmInfoMap::const_iterator end, const GoOn& goOn)
+{
+    // A failure may have ended the transaction and taken away what the road counts on.
+    const int64_t failedBefore = m_iFailed;
+    AlarmSchemeSaveRoad road(m_pDatabase);
+    for (; road.IsReady() && m_iFailed == failedBefore && entry != end; ++entry) {
+        if (goOn && !goOn()) {
+            entry = end;
+            return;
+        }
+        switch (road.Save(entry.key(), entry.value())) {
+        case AlarmSchemeSaveRoad::Result::Saved:
+            break;
+        case AlarmSchemeSaveRoad::Result::Unusual:
+            SaveScheme(entry.key(), entry.value());
+            break;
+        case AlarmSchemeSaveRoad::Result::Failed:
+            CountAndLogFailure();
+            return;
+        }
+    }
 }
 
 int32_t AlarmSchemeDatabaseParser::DeleteSchemes(const QList<AlarmSourceKey>& keys)
@@ -226,6 +255,12 @@ int32_t AlarmSchemeDatabaseParser::DeleteAllSchemesBut(const QList<AlarmSourceKe
 
 int32_t AlarmSchemeDatabaseParser::DisableAllSchemesBut(const AlarmInfoMap& map)
 {
+    if (m_pDatabase != nullptr && m_fileCheck->IsKnown(m_pDatabase)) {
+        if (const auto ids = AlarmSchemeKeyScan::IdsOutside(m_pDatabase, map)) {
+            ExecForIds(SchemeStatements::DisableSchemes, *ids);
+            return 0;
+        }
+    }
     return ExecForSchemes(SchemeStatements::DisableSchemes,
                           [&map](const AlarmSourceKey& key) { return !map.contains(key); });
 }
@@ -235,14 +270,26 @@ int32_t AlarmSchemeDatabaseParser::ExecForSchemes(const char* szTemplate, const 
     const std::optional<QList<StoredScheme>> schemes = ReadStoredSchemes();
     if (!schemes)
         return -1;
-    QStringList ids;
+    std::vector<int64_t> ids;
     for (const StoredScheme& scheme : *schemes) {
         if (test(scheme.key))
-            ids.append(QString::number(scheme.iId));
+            ids.push_back(scheme.iId);
     }
-    if (ids.isEmpty())
-        return 0;
-    ExecFilled(szTemplate, {ids.join(QString::fromLatin1(SchemeStatements::IdSeparator))});
-    Stamp();
+    ExecForIds(szTemplate, ids);
     return 0;
+}
+
+void AlarmSchemeDatabaseParser::ExecForIds(const char* szTemplate, const std::vector<int64_t>& ids)
+{
+    if (ids.empty())
+        return;
+    const QString separator = QString::fromLatin1(SchemeStatements::IdSeparator);
+    QString list;
+    for (const int64_t id : ids) {
+        if (!list.isEmpty())
+            list += separator;
+        list += QString::number(id);
+    }
+    ExecFilled(szTemplate, {list});
+    Stamp();
 }

@@ -1,0 +1,80 @@
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatement.h"
+
+#include <sqlite3.h>
+
+AlarmSchemeStatement::AlarmSchemeStatement(sqlite3* pDatabase, const char* szText)
+{
+    if (sqlite3_prepare_v2(pDatabase, szText, -1, &m_pStatement, nullptr) != SQLITE_OK) {
+        sqlite3_finalize(m_pStatement);
+        m_pStatement = nullptr;
+    }
+}
+
+AlarmSchemeStatement::~AlarmSchemeStatement()
+{
+    sqlite3_finalize(m_pStatement);
+}
+
+AlarmSchemeRun::~AlarmSchemeRun()
+{
+    // The values stay bound: every run binds all of them anew.
+    sqlite3_reset(m_pStatement);
+}
+
+AlarmSchemeRun& AlarmSchemeRun::Bind(int64_t iNumber)
+{
+    sqlite3_bind_int64(m_pStatement, ++m_iBound, iNumber);
+    return *this;
+}
+
+AlarmSchemeRun& AlarmSchemeRun::Bind(const QByteArray& text)
+{
+    sqlite3_bind_text(m_pStatement, ++m_iBound, text.constData(), text.size(), SQLITE_STATIC);
+    return *this;
+}
+
+bool AlarmSchemeRun::Next()
+{
+    m_iResult = m_pStatement != nullptr ? sqlite3_step(m_pStatement) : SQLITE_MISUSE;
+    return m_iResult == SQLITE_ROW;
+}
+
+bool AlarmSchemeRun::IsDone() const
+{
+    return m_iResult == SQLITE_DONE;
+}
+
+bool AlarmSchemeRun::IsInteger(int iColumn) const
+{
+    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_INTEGER;
+}
+
+bool AlarmSchemeRun::IsNull(int iColumn) const
+{
+    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_NULL;
+}
+
+int64_t AlarmSchemeRun::Int64(int iColumn) const
+{
+    return sqlite3_column_int64(m_pStatement, iColumn);
+}
+
+int32_t AlarmSchemeRun::Int(int iColumn) const
+{
+    return sqlite3_column_int(m_pStatement, iColumn);
+}
+
+bool AlarmSchemeRun::IsText(int iColumn) const
+{
+    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_TEXT;
+}
+
+const char* AlarmSchemeRun::Bytes(int iColumn) const
+{
+    return reinterpret_cast<const char*>(sqlite3_column_text(m_pStatement, iColumn));
+}
+
+int AlarmSchemeRun::Size(int iColumn) const
+{
+    return sqlite3_column_bytes(m_pStatement, iColumn);
+}
