@@ -3,21 +3,69 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatement.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <limits>
 
 namespace {
 
-bool IsAscii(const char* pText, int iSize)
+bool IsAscii(const QByteArray& text)
 {
-    return std::all_of(pText, pText + iSize, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-bool IsShortInteger(const AlarmSchemeRun& row, int iColumn)
+bool IsShort(int64_t iNumber)
 {
-    return row.IsInteger(iColumn) && row.Int64(iColumn) >= std::numeric_limits<int32_t>::min() &&
-           row.Int64(iColumn) <= std::numeric_limits<int32_t>::max();
+    return iNumber >= std::numeric_limits<int32_t>::min() && iNumber <= std::numeric_limits<int32_t>::max();
 }
+
+/// The map, gone through in the order of its keys beside rows in the same order.
+class KeyWalk
+{
+public:
+    explicit KeyWalk(const AlarmInfoMap& map)
+        : m_entry(map.cbegin())
+        , m_end(map.cend())
+    {
+    }
+
+    void SetText(const QByteArray& text)
+    {
+        m_text = text;
+        m_pEqual = nullptr;
+    }
+    /// Whether the map holds the text with this type.
+    bool Holds(int32_t iType)
+    {
+        for (; m_entry != m_end; ++m_entry) {
+            const int order = Order(m_entry.key().strEventSource);
+            if (order == 0 && m_entry.key().AlarmType == iType)
+                return true;
+            if (order > 0 || (order == 0 && m_entry.key().AlarmType > iType))
+                return false;
+        }
+        return false;
+    }
+
+private:
+    int Order(const QString& strKey)
+    {
+        // Keys of one source mostly share one text.
+        if (strKey.constData() == m_pEqual)
+            return 0;
+        const int order = strKey.compare(QLatin1String(m_text));
+        if (order == 0)
+            m_pEqual = strKey.constData();
+        return order;
+    }
+
+    AlarmInfoMap::const_iterator m_entry;
+    AlarmInfoMap::const_iterator m_end;
+    QByteArray m_text;
+    const QChar* m_pEqual = nullptr; ///< characters that were found to be the text
+};
 
 } // namespace
 
@@ -27,28 +75,24 @@ std::optional<std::vector<int64_t>> AlarmSchemeKeyScan::IdsOutside(sqlite3* pDat
     std::vector<int64_t> ids;
     AlarmSchemeStatement statement(pDatabase, SchemeStatements::ScanKeys);
     AlarmSchemeRun row(statement);
-    auto entry = map.cbegin();
+    KeyWalk walk(map);
+    QByteArray text;
+    bool plain = false; // such rows come in the map's own order, whatever others lie between them
     while (row.Next()) {
-        if (row.IsNull(1))
-            continue;
         const bool isText = row.IsText(1);
+        if (!isText && row.IsNull(1))
+            continue;
         const char* const bytes = row.Bytes(1);
-        const int size = row.Size(1);
-        bool held = false;
-        if (isText && IsAscii(bytes, size) && IsShortInteger(row, 2)) {
-            // Such rows come in the map's own order, whatever others lie between them.
-            const QLatin1String text(bytes, size);
-            const int32_t type = row.Int(2);
-            int order = -1;
-            for (; entry != map.cend(); ++entry) {
-                order = entry.key().strEventSource.compare(text);
-                if (order > 0 || (order == 0 && entry.key().AlarmType >= type))
-                    break;
-            }
-            held = entry != map.cend() && order == 0 && entry.key().AlarmType == type;
-        } else {
-            held = map.contains(AlarmSourceKey{QString::fromUtf8(bytes, size), row.Int(2)});
+        const QByteArray present = QByteArray::fromRawData(bytes, row.Size(1));
+        if (!plain || !isText || text != present) {
+            text = QByteArray(present.constData(), present.size());
+            plain = isText && IsAscii(text);
+            walk.SetText(text);
         }
+        const int64_t type = row.Int64(2);
+        const bool held = plain && IsShort(type) && row.IsInteger(2)
+                              ? walk.Holds(static_cast<int32_t>(type))
+                              : map.contains(AlarmSourceKey{QString::fromUtf8(text), row.Int(2)});
         if (!held)
             ids.push_back(row.Int64(0));
     }

@@ -134,41 +134,87 @@ void LiteralStore::SaveAll(const AlarmInfoMap& map)
 {
     Run("Begin");
     Disable(map);
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
-        SaveOne(entry.key(), entry.value());
+    SaveEach(map);
     Run("COMMIT");
 }
 
-void LiteralStore::SaveOne(const AlarmSourceKey& key, const AlarmInfo& info)
+void LiteralStore::SaveSome(const AlarmInfoMap& map)
+{
+    Run("Begin");
+    SaveEach(map);
+    Run("COMMIT");
+}
+
+void LiteralStore::SaveEach(const AlarmInfoMap& map)
+{
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
+        SaveOne(entry.key(), entry.value());
+}
+
+string LiteralStore::Ensure(const AlarmSourceKey& key)
 {
     Run("insert into AlarmUniqueID(strEventSource, AlarmType) select " + Quoted(key.strEventSource) + ", " +
         to_string(key.AlarmType) + " where not exists(select * from AlarmUniqueID where " + IsKey(key) +
         ");");
     bool found = false;
-    const string id = to_string(FirstNumber("select * from AlarmUniqueID where " + IsKey(key) + ";", found));
-    if (!found)
-        return;
-    const string ofId = " where AlarmUniqueID = " + id;
+    const long long id = FirstNumber("select * from AlarmUniqueID where " + IsKey(key) + ";", found);
+    return found ? to_string(id) : string();
+}
 
+void LiteralStore::EnsureBase(const string& id)
+{
     Run("insert into AlarmBaseInfo(AlarmUniqueID) select " + id +
-        " where not exists(select * from AlarmBaseInfo" + ofId + ");");
-    Run("update AlarmBaseInfo set bOpen = " + Bit(info.bOpen) + ofId + ";");
-    Run("update AlarmBaseInfo set bOpenSound = " + Bit(info.bOpenSound) +
-        ", bEmapTwinkle = " + Bit(info.bEmapTwinkle) + ", bSendEmail = " + Bit(info.bSendEmail) + ofId + ";");
+        " where not exists(select * from AlarmBaseInfo where AlarmUniqueID = " + id + ");");
+}
 
-    SaveVideo(id, info.videoSplit);
+void LiteralStore::SaveOne(const AlarmSourceKey& key, const AlarmInfo& info)
+{
+    // Every part makes sure of the key anew.
+    if (const string id = Ensure(key); !id.empty()) {
+        EnsureBase(id);
+        Run("update AlarmBaseInfo set bOpen = " + Bit(info.bOpen) + " where AlarmUniqueID = " + id + ";");
+    }
+    if (const string id = Ensure(key); !id.empty()) {
+        EnsureBase(id);
+        Run("update AlarmBaseInfo set bOpenSound = " + Bit(info.bOpenSound) +
+            ", bEmapTwinkle = " + Bit(info.bEmapTwinkle) + ", bSendEmail = " + Bit(info.bSendEmail) +
+            " where AlarmUniqueID = " + id + ";");
+    }
+    if (const string id = Ensure(key); !id.empty())
+        SaveVideo(id, info.videoSplit);
+    if (const string id = Ensure(key); !id.empty())
+        SaveDoors(id, info.listDoor);
+    if (const string id = Ensure(key); !id.empty())
+        SaveAlarmOut(id, info.listAlarmOut);
+    if (const string id = Ensure(key); !id.empty()) {
+        Run("delete from AlarmDefenceTimeInfo where AlarmUniqueID = " + id + ";");
+        for (int day = 0; day < 7; ++day) {
+            for (const AlarmTimeRegion& region : info.defenceTime[day])
+                Run("insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(" + id + "," +
+                    to_string(day + 1) + "," + to_string(region.Begin) + "," + to_string(region.End) + ");");
+        }
+    }
+}
 
+void LiteralStore::SaveDoors(const string& id, const QList<AlarmLinkDoor>& links)
+{
+    const string ofId = " where AlarmUniqueID = " + id;
     Run("delete from AlarmLinkDoorInfo" + ofId + ";");
-    for (const AlarmLinkDoor& link : info.listDoor) {
+    for (const AlarmLinkDoor& link : links) {
         const string door = to_string(link.strDoorID.toLongLong());
         const string row = ofId + " and AlarmLinkDoorID = " + door;
         Run("insert into AlarmLinkDoorInfo(AlarmUniqueID, AlarmLinkDoorID) select " + id + ", " + door +
             " where not exists(select * from AlarmLinkDoorInfo" + row + ");");
         Run("update AlarmLinkDoorInfo set bAlwaysOpen = " + Bit(link.bAlwaysOpen) + row + ";");
     }
+}
 
+void LiteralStore::SaveAlarmOut(const string& id, const QList<AlarmLinkAlarmOut>& links)
+{
+    const string ofId = " where AlarmUniqueID = " + id;
+    bool found = false;
     Run("delete from AlarmLinkAlarmOutInfo" + ofId + ";");
-    for (const AlarmLinkAlarmOut& link : info.listAlarmOut) {
+    for (const AlarmLinkAlarmOut& link : links) {
         const string text = Quoted(link.strLinkAlarmID);
         Run("insert into AlarmLinkAlarmOutID(strLinkAlarmID) select " + text +
             " where not exists(select * from AlarmLinkAlarmOutID where strLinkAlarmID = " + text + ");");
@@ -181,14 +227,6 @@ void LiteralStore::SaveOne(const AlarmSourceKey& key, const AlarmInfo& info)
             output + " where not exists(select * from AlarmLinkAlarmOutInfo" + row + ");");
         Run("update AlarmLinkAlarmOutInfo set bAutoOpen = " + Bit(link.bAutoOpen) +
             ", Time = " + to_string(link.Time) + row + ";");
-    }
-
-    Run("delete from AlarmDefenceTimeInfo" + ofId + ";");
-    for (int day = 0; day < 7; ++day) {
-        for (const AlarmTimeRegion& region : info.defenceTime[day]) {
-            Run("insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(" + id + "," +
-                to_string(day + 1) + "," + to_string(region.Begin) + "," + to_string(region.End) + ");");
-        }
     }
 }
 
@@ -215,6 +253,7 @@ void LiteralStore::SaveVideo(const string& id, const AlarmVideoSplit& split)
             ", StreamType = " + to_string(link.StreamType) + ", Time = " + to_string(link.Time) + row + ";");
     }
 
+    EnsureBase(id);
     Run("update AlarmBaseInfo set SplitRow = " + to_string(split.SplitRow) + ", SplitCloum = " +
         to_string(split.SplitCloum) + ", SplitCount = " + to_string(split.SplitCount) + ofId + ";");
     const long long cells = static_cast<long long>(split.SplitRow) * split.SplitCloum;
@@ -271,10 +310,12 @@ AlarmInfo LiteralStore::ReadOne(const AlarmSourceKey& key)
     bool time = false;
     EachRow(m_db, "select Day,Begin,End from AlarmDefenceTimeInfo" + OfKey(key), [&](sqlite3_stmt* row) {
         time = true;
-        const int day = sqlite3_column_int(row, 0);
-        const AlarmTimeRegion region{sqlite3_column_int(row, 1), sqlite3_column_int(row, 2)};
-        if (day >= 1 && day <= 7 && region.Begin >= 0 && region.End >= 0 && region.Begin <= region.End)
-            week[day - 1].append(region);
+        const sqlite3_int64 day = sqlite3_column_int64(row, 0);
+        const sqlite3_int64 begin = sqlite3_column_int64(row, 1);
+        const sqlite3_int64 end = sqlite3_column_int64(row, 2);
+        if (day >= 1 && day <= 7 && begin >= 0 && end >= 0 && begin <= end && end <= 2147483647)
+            week[static_cast<int>(day) - 1].append(
+                AlarmTimeRegion{static_cast<int32_t>(begin), static_cast<int32_t>(end)});
     });
     if (base || time)
         info.defenceTime = week;

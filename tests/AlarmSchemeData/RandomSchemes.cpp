@@ -13,8 +13,10 @@ AlarmSourceKey RandomSchemes::Key()
         return {QStringLiteral("%1$%2' -- ;\\%3"), types[static_cast<size_t>(Below(4))]};
     case 1:
         return {QString::fromUtf8("\xE9\x97\xA8\xF0\x9F\x9A\xAA$1$0$1"), 2};
-    case 2:
-        return {QString(), 2};
+    case 2: // the last four would be read as columns
+        static const std::array<const char*, 6> texts{"",    "a key", "strEventSource",
+                                                      "oid", "Day",   "windowid"};
+        return {QString::fromLatin1(texts[static_cast<size_t>(Below(6))]), 2};
     default:
         return {EventSource::Door(Below(3), Below(3)), types[static_cast<size_t>(Below(2))]};
     }
@@ -27,6 +29,8 @@ QString RandomSchemes::LinkKey()
         return QString();
     case 1:
         return QStringLiteral("%1 it's %4");
+    case 2:
+        return Below(4) == 0 ? QStringLiteral("_ROWID_") : QString::fromUtf8("\xE9\x97\xA8");
     default:
         return EventSource::AlarmOutput(Below(5));
     }

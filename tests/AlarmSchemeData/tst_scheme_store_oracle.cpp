@@ -1,6 +1,6 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "tests/AlarmSchemeData/LiteralStore.h"
-#include "tests/AlarmSchemeData/RandomSchemes.h"
+#include "tests/AlarmSchemeData/OracleRounds.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 
@@ -12,6 +12,7 @@ class SchemeStoreOracleTest : public QObject
 
 private Q_SLOTS:
     void savingRandomMapsLeavesTheRowsOfTheLiteralStatements();
+    void strangeFilesAreReadAndWrittenAsByTheLiteralStatements();
     void loadingRandomRowsReadsWhatTheLiteralStatementsRead();
 
 private:
@@ -20,28 +21,17 @@ private:
 
 void SchemeStoreOracleTest::savingRandomMapsLeavesTheRowsOfTheLiteralStatements()
 {
-    for (quint32 seed = 1; seed <= 60; ++seed) {
-        const StoreFolder folder;
-        RawDatabase other(QDir(folder.Root()).absoluteFilePath(QStringLiteral("other.db")));
-        other.Run(QStringLiteral("PRAGMA synchronous = OFF"));
-        LiteralStore literal(other.Handle());
-        AlarmSchemeDatabaseParser store;
-        store.ExecOnce(QStringLiteral("PRAGMA synchronous = OFF"));
-        RandomSchemes random(seed);
-        for (int round = 0; round < 5; ++round) {
-            const AlarmInfoMap map = random.Map();
-            literal.SaveAll(map);
-            QCOMPARE(store.SaveAll(&map), 0);
-            RawDatabase saved(folder.File());
-            const QStringList expected = other.Content();
-            QVERIFY2(saved.Content() == expected,
-                     qPrintable(QStringLiteral("seed %1, round %2").arg(seed).arg(round)));
-            QVERIFY(expected.size() > 12);
-        }
-        QCOMPARE(store.FailedStatements(), int64_t(0));
-        AlarmInfoMap loaded;
-        QCOMPARE(store.ReadAll(&loaded), 0);
-        QVERIFY2(loaded == literal.ReadAll(), qPrintable(QStringLiteral("seed %1").arg(seed)));
+    for (quint32 seed = 1; seed <= 100; ++seed) {
+        const QString difference = OracleRounds::SaveRandomMaps(seed);
+        QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(difference)));
+    }
+}
+
+void SchemeStoreOracleTest::strangeFilesAreReadAndWrittenAsByTheLiteralStatements()
+{
+    for (quint32 seed = 1; seed <= 100; ++seed) {
+        const QString difference = OracleRounds::UseStrangeFile(seed);
+        QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(difference)));
     }
 }
 

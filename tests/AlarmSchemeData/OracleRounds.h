@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Comparisons of the store with the literal statements, each from a seed. Empty when both did the same,
+/// otherwise what differed.
+namespace OracleRounds {
+
+/// Random maps saved one after the other into an empty file, whole and in parts.
+QString SaveRandomMaps(quint32 iSeed);
+/// A strange file: loaded, saved into, and loaded again.
+QString UseStrangeFile(quint32 iSeed);
+
+} // namespace OracleRounds
