@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing for a purpose: build, check or bench.
+# Installs the Debian packages that are missing for a purpose: build, check, bench or instructions.
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev rapidjson-dev
@@ -7,9 +7,10 @@ packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttr
 case "${1:-build}" in
 build) ;;
 check) packages+=(clang clang-format clang-tidy clazy) ;;
-bench) packages+=(libbenchmark-dev) ;;
+bench) packages+=(libbenchmark-dev python3) ;;
+instructions) packages+=(valgrind) ;;
 *)
-    echo "usage: $0 build|check|bench" >&2
+    echo "usage: $0 build|check|bench|instructions" >&2
     exit 2
     ;;
 esac

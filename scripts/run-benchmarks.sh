@@ -1,81 +1,67 @@
 #!/usr/bin/env bash
-# Runs the benchmarks of a build folder, prints what each costs beside the plain operation of the same run, and
-# leaves everything in <build folder>/bench.json.
+# Runs every benchmark program of BUILD/bench, prints what they print, and gathers the figures in
+# BUILD/bench.json: {"figures":[{"name":...,"size":...,"ratio":...}]}. A benchmark has a figure when it counts a
+# "ratio" (to the plain operation in the same run) or a "number"; the others are measured by the plain operation
+# of their program that stands beside them in the table below.
 set -euo pipefail
-cd "$(dirname "$0")/.."
 build=$(cd "${1:-build}" && pwd)
+export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" LC_ALL=C.UTF-8
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 
-# program, operation, the operation that it is measured by
-ratios="
-bench_copy CopyIntoEmpty PlainInsert
-bench_copy CopyOverExisting PlainInsert
-bench_copy ClearTargets PlainInsert
-bench_copy RemoveDevice PlainErase
-bench_day_bar MoveStep/bars:7 MoveStep/bars:1
-bench_day_bar_4k MoveStep/bars:7 MoveStep/bars:1
-bench_output_editor ShowTheSameScheme WalkEveryRow
-bench_output_editor ShowSchemesInTurn WalkEveryRow
-bench_output_editor ShowAllAndNothingInTurn WalkEveryRow
-bench_output_editor ShowAllAndNothingInAnUnfoldedTree WalkEveryRow
-bench_output_editor ReadAll WalkEveryRow
-bench_output_editor TickAndUntickEverythingInTheEditor InsertEveryKey
-bench_output_editor TickAndUntickEveryDoorInThePopup InsertEveryKey
-bench_output_editor TickAndUntickEveryChannelInThePopup InsertEveryKey
-"
-
-results=$(mktemp -d)
-trap 'rm -rf "$results"' EXIT
-
-cd "$build/bench/bin"
+# The working directory holds "./Skin", as the widgets expect it.
+skin="$build/bench/bin"
+[ -d "$skin/Skin" ] || skin=$(cd "$(dirname "$0")/.." && pwd)
+cd "$skin"
+count=0
 for program in "$build"/bench/benchmarks/bench_*; do
     [ -f "$program" ] && [ -x "$program" ] || continue
     name=$(basename "$program")
     echo "== $name"
-    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 "$program" --benchmark_out_format=json \
-        --benchmark_out="$results/$name.json"
+    "$program" --benchmark_out="$work/$name.json" --benchmark_out_format=json
+    count=$((count + 1))
 done
+if [ "$count" -eq 0 ]; then
+    echo "There is no benchmark program in $build/bench/benchmarks; build the preset \"bench\" first." >&2
+    exit 1
+fi
 
-# The time of one operation as the program wrote it down: lines of the form "name": ..., "real_time": ...
-time_of() {
-    awk -F'"' -v wanted="$2" '
-        $2 == "name" { name = $4 }
-        $2 == "real_time" && (name == wanted || name == wanted "/iterations:" iterations(name)) {
-            sub(/^[: ]+/, "", $3); sub(/,.*/, "", $3); print $3; exit
-        }
-        function iterations(text) { sub(/.*\/iterations:/, "", text); return text }
-    ' "$results/$1.json"
+python3 - "$build/bench.json" "$work" <<'PYTHON'
+import json, pathlib, sys
+
+measured_by = {
+    "bench_copy": {"PlainInsert": ["CopyIntoEmpty", "CopyOverExisting", "ClearTargets"], "PlainErase": ["RemoveDevice"]},
+    "bench_day_bar": {"MoveStep/bars:1": ["MoveStep/bars:7"]},
+    "bench_day_bar_4k": {"MoveStep/bars:1": ["MoveStep/bars:7"]},
+    "bench_output_editor": {
+        "WalkEveryRow": ["ShowTheSameScheme", "ShowSchemesInTurn", "ShowAllAndNothingInTurn",
+                         "ShowAllAndNothingInAnUnfoldedTree", "ReadAll"],
+        "InsertEveryKey": ["TickAndUntickEverythingInTheEditor", "TickAndUntickEveryDoorInThePopup",
+                           "TickAndUntickEveryChannelInThePopup"],
+    },
 }
 
-echo "== ratios"
-lines=()
-while read -r name operation plain; do
-    [ -n "$name" ] || continue
-    costs=$(time_of "$name" "$operation")
-    base=$(time_of "$name" "$plain")
-    if [ -z "$costs" ] || [ -z "$base" ]; then
-        echo "$name does not measure $operation and $plain" >&2
-        exit 1
-    fi
-    ratio=$(LC_ALL=C awk -v a="$costs" -v b="$base" 'BEGIN { printf "%.2f", a / b }')
-    printf '%-20s %-40s %10s x %s\n' "$name" "$operation" "$ratio" "$plain"
-    lines+=("    { \"program\": \"$name\", \"operation\": \"$operation\", \"by\": \"$plain\", \"ratio\": $ratio }")
-done <<<"$ratios"
-
-{
-    echo '{'
-    echo '  "ratios": ['
-    for i in "${!lines[@]}"; do
-        [ "$i" -eq 0 ] || echo ','
-        printf '%s' "${lines[$i]}"
-    done
-    printf '\n  ],\n  "programs": {\n'
-    separator=''
-    for file in "$results"/*.json; do
-        printf '%s  "%s":\n' "$separator" "$(basename "$file" .json)"
-        cat "$file"
-        separator=','
-    done
-    printf '  }\n}\n'
-} >"$build/bench.json.new"
-mv "$build/bench.json.new" "$build/bench.json"
-echo "All figures: $build/bench.json"
+figures = []
+for path in sorted(pathlib.Path(sys.argv[2]).glob("*.json")):
+    for run in json.loads(path.read_text())["benchmarks"]:
+        value = run.get("ratio", run.get("number"))
+        if value is None or run.get("error_occurred"):
+            continue
+        name, *rest = run["run_name"].split("/")
+        size = next((int(part) for part in rest if part.isdigit()), 1)
+        figures.append({"name": name, "size": size, "ratio": round(value, 5)})
+    times = {}
+    for run in json.loads(path.read_text())["benchmarks"]:
+        times.setdefault(run["run_name"].split("/iterations:")[0], run["real_time"])
+    for plain, operations in measured_by.get(path.stem, {}).items():
+        for operation in operations:
+            if operation not in times or plain not in times:
+                sys.exit(f"{path.stem} does not measure {operation} and {plain}")
+            ratio = times[operation] / times[plain]
+            figures.append({"name": f"{path.stem}/{operation}", "size": 1, "ratio": round(ratio, 5)})
+pathlib.Path(sys.argv[1]).write_text(json.dumps({"figures": figures}, indent=1) + "\n")
+print()
+for figure in figures:
+    print("{name:<60} {size:>8} {ratio:>10.3f}".format(**figure))
+print("written to", sys.argv[1])
+PYTHON

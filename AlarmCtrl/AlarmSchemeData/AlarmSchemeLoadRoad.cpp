@@ -3,6 +3,7 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemePlainText.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatement.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeTextPool.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeTimeRows.h"
 
 #include <algorithm>
@@ -127,17 +128,38 @@ bool AlarmSchemeLoadRoad::Load(const ReadLiterally& readLiterally)
     if (!read)
         return false;
 
-    for (Scheme& scheme : m_schemes) {
-        if (scheme.bUnusual) {
-            *scheme.entry = AlarmInfo();
-            readLiterally(scheme.entry.key(), *scheme.entry);
-        }
-    }
-    for (const AlarmSourceKey& key : qAsConst(m_unusual)) {
-        if (!m_map.contains(key))
-            readLiterally(key, *m_map.insert(key, AlarmInfo()));
-    }
+    ReadUnusual(readLiterally);
     return true;
+}
+
+void AlarmSchemeLoadRoad::ReadUnusual(const ReadLiterally& readLiterally)
+{
+    const bool any =
+        !m_unusual.isEmpty() || std::any_of(m_schemes.cbegin(), m_schemes.cend(),
+                                            [](const Scheme& scheme) { return scheme.bUnusual; });
+    if (!any)
+        return;
+    // What the statements read shall share its texts with the rest.
+    AlarmSchemeTextPool pool;
+    for (Texts* texts : {&m_videoTexts, &m_alarmOutTexts, &m_doorTexts}) {
+        for (QString& text : *texts)
+            pool.Intern(text);
+    }
+    for (Scheme& scheme : m_schemes) {
+        if (!scheme.bUnusual)
+            continue;
+        *scheme.entry = AlarmInfo();
+        readLiterally(scheme.entry.key(), *scheme.entry);
+        pool.Intern(*scheme.entry);
+    }
+    for (AlarmSourceKey& key : m_unusual) {
+        if (m_map.contains(key))
+            continue;
+        pool.Intern(key.strEventSource);
+        AlarmInfo& info = *m_map.insert(key, AlarmInfo());
+        readLiterally(key, info);
+        pool.Intern(info);
+    }
 }
 
 bool AlarmSchemeLoadRoad::ReadKeys()

@@ -39,6 +39,7 @@ private:
     template <typename UseRow>
     bool EachOwnedRow(const char* szStatement, int iLastId, UseRow&& useRow);
     bool ReadKeys();
+    void ReadUnusual(const ReadLiterally& readLiterally);
     bool ReadTexts(const char* szStatement, Texts& texts);
     Scheme* Find(int64_t iId);
     Scheme* Owner(const AlarmSchemeRun& row);

@@ -4,23 +4,8 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeQuery.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatementText.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStatements.h"
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeTextPool.h"
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeTimeRows.h"
-
-#include <QSet>
-
-namespace {
-
-/// Equal texts as one: schemes name few sources and outputs, and many schemes name the same.
-class TextPool
-{
-public:
-    void Intern(QString& strText) { strText = *m_texts.insert(strText); }
-
-private:
-    QSet<QString> m_texts;
-};
-
-} // namespace
 
 std::optional<QString> AlarmSchemeDatabaseParser::LinkText(const char* szTemplate, int64_t iLinkId)
 {
@@ -234,7 +219,7 @@ int32_t AlarmSchemeDatabaseParser::ReadSchemes(AlarmInfoMap& map)
     const std::optional<QList<StoredScheme>> schemes = ReadStoredSchemes();
     if (!schemes)
         return -1;
-    TextPool pool;
+    AlarmSchemeTextPool pool;
     for (const StoredScheme& scheme : *schemes) {
         if (map.contains(scheme.key))
             continue;
@@ -242,10 +227,7 @@ int32_t AlarmSchemeDatabaseParser::ReadSchemes(AlarmInfoMap& map)
         pool.Intern(key.strEventSource);
         AlarmInfo& info = *map.insert(key, AlarmInfo());
         ReadScheme(key, info);
-        for (AlarmLinkAlarmOut& link : info.listAlarmOut)
-            pool.Intern(link.strLinkAlarmID);
-        for (AlarmLinkVideo& link : info.videoSplit.videoLinks)
-            pool.Intern(link.strLinkDevID);
+        pool.Intern(info);
     }
     return 0;
 }

@@ -11,19 +11,6 @@
 
 namespace {
 
-/// What reaches the disk is not the subject here.
-void Hurry(sqlite3* pDatabase)
-{
-    sqlite3_exec(pDatabase, "PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY", nullptr, nullptr,
-                 nullptr);
-}
-
-bool HurryAlong(sqlite3* pDatabase)
-{
-    Hurry(pDatabase);
-    return true;
-}
-
 QString OtherFile(const StoreFolder& folder)
 {
     return QDir(folder.Root()).absoluteFilePath(QStringLiteral("other.db"));
@@ -63,11 +50,18 @@ QString LoadBoth(const QString& strWhat, AlarmSchemeDatabaseParser& store, Liter
 
 } // namespace
 
+bool OracleRounds::HurryAlong(sqlite3* pDatabase)
+{
+    sqlite3_exec(pDatabase, "PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY", nullptr, nullptr,
+                 nullptr);
+    return true;
+}
+
 QString OracleRounds::SaveRandomMaps(quint32 iSeed)
 {
     const StoreFolder folder;
     RawDatabase other(OtherFile(folder));
-    Hurry(other.Handle());
+    HurryAlong(other.Handle());
     LiteralStore literal(other.Handle());
     AlarmSchemeDatabaseParser store(&HurryAlong);
     RawDatabase saved(folder.File());
@@ -105,14 +99,14 @@ QString OracleRounds::UseStrangeFile(quint32 iSeed)
     QStringList changes;
     {
         RawDatabase database(folder.File());
-        Hurry(database.Handle());
+        HurryAlong(database.Handle());
         QRandomGenerator random(iSeed);
         changes = MakeStrange(database, random);
     }
     QFile::copy(folder.File(), OtherFile(folder));
 
     RawDatabase other(OtherFile(folder));
-    Hurry(other.Handle());
+    HurryAlong(other.Handle());
     LiteralStore literal(other.Handle());
     AlarmSchemeDatabaseParser store(&HurryAlong);
     RawDatabase saved(folder.File());

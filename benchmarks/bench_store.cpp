@@ -1,0 +1,423 @@
+// The scheme store beside a raw prepared pass over the same rows, with the same schema, indexes, foreign keys
+// and journal, in the same run. A third of the schemes have outputs, painted days and video links.
+//
+// "--instructions save" and "--instructions load" do one save, or one load, of 1,000 schemes and nothing
+// else, for a program that counts instructions.
+
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "platform/SystemLibrary/SystemPaths.h"
+#include "platform/lxl/DPrintLog.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace {
+
+constexpr int s_iTypesOfDoor = 80;
+constexpr int s_iOutputs = 500;
+constexpr int s_iCameras = 300;
+
+/// Bytes that the heap holds; 0 where the platform does not tell.
+double HeapBytes()
+{
+#if defined(__GLIBC__) && (__GLIBC__ > 2 || __GLIBC_MINOR__ >= 33)
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+#else
+    return 0.0;
+#endif
+}
+
+double Seconds(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+AlarmInfo RichScheme(int iScheme)
+{
+    AlarmInfo info;
+    info.bOpen = true;
+    info.bOpenSound = true;
+    info.videoSplit.SplitRow = 2;
+    info.videoSplit.SplitCloum = 2;
+    info.videoSplit.SplitCount = 4;
+    info.videoSplit.cells[iScheme % 4].iCombine = 1;
+    for (int window = 0; window < 2; ++window)
+        info.videoSplit.videoLinks[window].strLinkDevID =
+            EventSource::Door(9000000 + (iScheme + window) % s_iCameras, 1);
+    for (int link = 0; link < 3; ++link)
+        info.listAlarmOut.append(
+            AlarmLinkAlarmOut{EventSource::AlarmOutput(8000000 + (iScheme + link) % s_iOutputs), true, 20});
+    for (int day = 1; day < 6; ++day)
+        info.defenceTime[day] = {{0, 7 * 3600 + 60 * (iScheme % 60)}, {18 * 3600, 86399}};
+    return info;
+}
+
+AlarmInfoMap Schemes(int iCount)
+{
+    AlarmInfoMap map;
+    for (int scheme = 0; scheme < iCount; ++scheme) {
+        const AlarmSourceKey key{EventSource::Door(1 + scheme / s_iTypesOfDoor / 8, scheme / s_iTypesOfDoor),
+                                 scheme % s_iTypesOfDoor};
+        map.insert(key, scheme % 3 == 0 ? RichScheme(scheme) : AlarmInfo());
+    }
+    return map;
+}
+
+/// A data directory of its own, in effect during the object's life.
+class Folder
+{
+public:
+    Folder()
+    {
+        SystemPaths::SetDataDirectory(m_directory.path());
+        QDir().mkpath(QGetDatabaseDirPath());
+    }
+    ~Folder() { SystemPaths::SetDataDirectory(QString()); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    QString File() const
+    {
+        return QDir(QGetDatabaseDirPath()).absoluteFilePath(QStringLiteral("AlarmScheme.db"));
+    }
+    QString Other() const { return QDir(m_directory.path()).absoluteFilePath(QStringLiteral("raw.db")); }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+void Check(bool bFine, const char* szWhat)
+{
+    if (!bFine)
+        qFatal("%s", szWhat);
+}
+
+constexpr std::array<const char*, 9> s_tables{
+    "AlarmUniqueID",     "AlarmLinkVideoID",      "AlarmLinkAlarmOutID",
+    "AlarmBaseInfo",     "AlarmSplitInfo",        "AlarmLinkVideoInfo",
+    "AlarmLinkDoorInfo", "AlarmLinkAlarmOutInfo", "AlarmDefenceTimeInfo"};
+
+/// A connection as the store has one, and plain prepared passes over whole tables.
+class RawPass
+{
+public:
+    explicit RawPass(const QString& strPath)
+    {
+        Check(sqlite3_open(strPath.toUtf8().constData(), &m_pDatabase) == SQLITE_OK, "cannot open a file");
+        Run("PRAGMA foreign_keys = ON; PRAGMA cache_size=20000;");
+    }
+    ~RawPass() { sqlite3_close(m_pDatabase); }
+    RawPass(const RawPass&) = delete;
+    RawPass& operator=(const RawPass&) = delete;
+
+    void Run(const QByteArray& sql)
+    {
+        Check(sqlite3_exec(m_pDatabase, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK, sql);
+    }
+
+    /// Fetches every column of every row; the keys go into a map of plain records.
+    AlarmInfoMap Scan()
+    {
+        AlarmInfoMap map;
+        Run("begin");
+        for (const char* table : s_tables) {
+            sqlite3_stmt* statement = Prepare(QByteArray("select * from ") + table);
+            const bool keys = std::strcmp(table, "AlarmUniqueID") == 0;
+            const int columns = sqlite3_column_count(statement);
+            while (sqlite3_step(statement) == SQLITE_ROW) {
+                for (int column = 0; column < columns; ++column) {
+                    if (sqlite3_column_type(statement, column) == SQLITE_TEXT)
+                        benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
+                    else
+                        benchmark::DoNotOptimize(sqlite3_column_int64(statement, column));
+                }
+                if (keys) {
+                    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 1));
+                    map.insert({QString::fromUtf8(text), sqlite3_column_int(statement, 2)}, AlarmInfo());
+                }
+            }
+            sqlite3_finalize(statement);
+        }
+        Run("commit");
+        return map;
+    }
+
+    /// All rows of a file, kept in memory, to be inserted as they are.
+    void Collect()
+    {
+        for (const char* table : s_tables) {
+            Table rows{table, 0, {}};
+            sqlite3_stmt* statement = Prepare(QByteArray("select * from ") + table);
+            rows.iColumns = sqlite3_column_count(statement);
+            while (sqlite3_step(statement) == SQLITE_ROW) {
+                for (int column = 0; column < rows.iColumns; ++column)
+                    rows.values.push_back(sqlite3_value_dup(sqlite3_column_value(statement, column)));
+            }
+            sqlite3_finalize(statement);
+            m_rows.push_back(rows);
+        }
+    }
+    void Forget()
+    {
+        for (const Table& table : m_rows) {
+            for (sqlite3_value* value : table.values)
+                sqlite3_value_free(value);
+        }
+        m_rows.clear();
+    }
+
+    /// Inserts what was collected elsewhere; ids are given anew by the tables.
+    void Insert(const RawPass& from)
+    {
+        Run("begin");
+        for (const Table& table : from.m_rows) {
+            QByteArray marks("null");
+            for (int column = 1; column < table.iColumns; ++column)
+                marks += ",?";
+            sqlite3_stmt* statement =
+                Prepare(QByteArray("insert into ") + table.szName + " values(" + marks + ')');
+            const size_t columns = static_cast<size_t>(table.iColumns);
+            for (size_t row = 0; row < table.values.size(); row += columns) {
+                for (size_t column = 1; column < columns; ++column)
+                    sqlite3_bind_value(statement, static_cast<int>(column), table.values[row + column]);
+                Check(sqlite3_step(statement) == SQLITE_DONE, "a raw row was refused");
+                sqlite3_reset(statement);
+            }
+            sqlite3_finalize(statement);
+        }
+        Run("commit");
+    }
+
+private:
+    struct Table
+    {
+        const char* szName;
+        int iColumns;
+        std::vector<sqlite3_value*> values;
+    };
+
+    sqlite3_stmt* Prepare(const QByteArray& sql)
+    {
+        sqlite3_stmt* statement = nullptr;
+        Check(sqlite3_prepare_v2(m_pDatabase, sql.constData(), -1, &statement, nullptr) == SQLITE_OK, sql);
+        return statement;
+    }
+
+    sqlite3* m_pDatabase = nullptr;
+    std::vector<Table> m_rows;
+};
+
+/// Some runs, the store's and the raw pass's turn by turn. The fastest of each counts: what else the machine
+/// does never makes a run faster.
+struct Timing
+{
+    double Ratio() const { return Fastest(store) / Fastest(raw); }
+    static double Fastest(const std::vector<double>& times)
+    {
+        return *std::min_element(times.cbegin(), times.cend());
+    }
+    std::vector<double> store;
+    std::vector<double> raw;
+};
+
+void Report(benchmark::State& state, const Timing& timing)
+{
+    const double count = static_cast<double>(state.range(0));
+    state.counters["ratio"] = timing.Ratio();
+    state.counters["us_per_scheme"] = Timing::Fastest(timing.store) * 1e6 / count;
+}
+
+int Count(const benchmark::State& state)
+{
+    return static_cast<int>(state.range(0));
+}
+
+void Save(AlarmSchemeDatabaseParser& store, const AlarmInfoMap& map)
+{
+    Check(store.SaveAll(&map) == 0 && store.FailedStatements() == 0, "a save failed");
+}
+
+void load_vs_raw(benchmark::State& state)
+{
+    const Folder folder;
+    const AlarmInfoMap map = Schemes(Count(state));
+    AlarmSchemeDatabaseParser store;
+    Save(store, map);
+    RawPass raw(folder.File());
+    Timing timing;
+    AlarmInfoMap scanned = raw.Scan();
+    for (auto _ : state) {
+        AlarmInfoMap loaded;
+        timing.store.push_back(Seconds([&] { store.ReadAll(&loaded); }));
+        state.SetIterationTime(timing.store.back());
+        Check(loaded.size() == map.size(), "schemes are missing");
+        loaded.clear();
+        scanned.clear();
+        timing.raw.push_back(Seconds([&] { scanned = raw.Scan(); }));
+    }
+    Report(state, timing);
+}
+
+/// A file with the schema and its indexes and no scheme, closed.
+void MakeEmpty(const QString& strPath)
+{
+    const Folder folder;
+    {
+        const AlarmSchemeDatabaseParser store;
+    }
+    QFile::remove(strPath);
+    Check(QFile::copy(folder.File(), strPath), "cannot copy a file");
+}
+
+void SaveBesideRaw(benchmark::State& state, bool bAgain)
+{
+    const AlarmInfoMap map = Schemes(Count(state));
+    const QTemporaryDir directory;
+    const QString empty = QDir(directory.path()).absoluteFilePath(QStringLiteral("empty.db"));
+    MakeEmpty(empty);
+    Timing timing;
+    for (auto _ : state) {
+        const Folder folder;
+        AlarmSchemeDatabaseParser store;
+        if (bAgain)
+            Save(store, map);
+        timing.store.push_back(Seconds([&] { Save(store, map); }));
+        state.SetIterationTime(timing.store.back());
+
+        RawPass from(folder.File());
+        from.Collect();
+        // The ids of the schemes are those of an empty file; rows that refer to them go in unchanged.
+        Check(QFile::copy(empty, folder.Other()), "cannot copy a file");
+        RawPass raw(folder.Other());
+        timing.raw.push_back(Seconds([&] { raw.Insert(from); }));
+        from.Forget();
+    }
+    Report(state, timing);
+}
+
+void save_new_vs_raw(benchmark::State& state)
+{
+    SaveBesideRaw(state, false);
+}
+
+void save_again_vs_raw(benchmark::State& state)
+{
+    SaveBesideRaw(state, true);
+}
+
+void save_one_vs_whole(benchmark::State& state)
+{
+    const Folder folder;
+    AlarmInfoMap map = Schemes(Count(state));
+    AlarmSchemeDatabaseParser store;
+    Save(store, map);
+    Timing timing;
+    int turn = 0;
+    for (auto _ : state) {
+        // What a caller does that knows what the file holds: compare, then write what differs.
+        for (int change = 0; change < 5; ++change) {
+            const AlarmInfoMap stored = map;
+            AlarmInfo& changed = *std::next(map.begin(), ++turn * 37 % map.size());
+            changed.bOpenSound = !changed.bOpenSound;
+            timing.store.push_back(Seconds([&] {
+                AlarmInfoMap different;
+                auto before = stored.cbegin();
+                for (auto entry = map.cbegin(); entry != map.cend(); ++entry, ++before) {
+                    if (!(entry.value() == before.value()))
+                        different.insert(entry.key(), entry.value());
+                }
+                store.BeginTransaction();
+                store.DisableAllSchemesBut(map);
+                store.SaveSchemes(different);
+                store.EndTransaction();
+                Check(different.size() == 1 && store.FailedStatements() == 0, "one scheme was to be saved");
+            }));
+        }
+        state.SetIterationTime(timing.store.back());
+        timing.raw.push_back(Seconds([&] { Save(store, map); }));
+    }
+    Report(state, timing);
+}
+
+void bytes_per_default_scheme(benchmark::State& state)
+{
+    const Folder folder;
+    AlarmSchemeDatabaseParser store;
+    AlarmInfoMap map = Schemes(Count(state));
+    for (AlarmInfo& info : map)
+        info = AlarmInfo();
+    Save(store, map);
+    map.clear();
+    for (auto _ : state) {
+        // Whatever a first load keeps for ever is not the map's.
+        store.ReadAll(&map);
+        map = AlarmInfoMap();
+        const double before = HeapBytes();
+        state.SetIterationTime(Seconds([&] { store.ReadAll(&map); }));
+        state.counters["number"] = (HeapBytes() - before) / static_cast<double>(map.size());
+    }
+}
+
+int RunOnce(const QByteArray& work)
+{
+    const Folder folder;
+    const AlarmInfoMap map = Schemes(1000);
+    AlarmSchemeDatabaseParser store;
+    if (work == "load")
+        Save(store, map);
+    AlarmInfoMap loaded;
+    // The counting program looks at these two calls only.
+    if (work == "load")
+        Check(store.ReadAll(&loaded) == 0 && loaded == map, "the schemes were not read");
+    else
+        Save(store, map);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    lxl::DPrintLog::instance().SetStandardError(false);
+    if (argc == 3 && QByteArray(argv[1]) == "--instructions")
+        return RunOnce(argv[2]);
+
+    const auto add = [](const char* szName, void (*function)(benchmark::State&)) {
+        for (const auto& [size, runs] : {std::pair(1000, 15), std::pair(10000, 7), std::pair(100000, 3)})
+            benchmark::RegisterBenchmark(szName, function)
+                ->Arg(size)
+                ->Iterations(runs)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
+    };
+    add("load_vs_raw", load_vs_raw);
+    add("save_new_vs_raw", save_new_vs_raw);
+    add("save_again_vs_raw", save_again_vs_raw);
+    add("save_one_vs_whole", save_one_vs_whole);
+    add("bytes_per_default_scheme", bytes_per_default_scheme);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
