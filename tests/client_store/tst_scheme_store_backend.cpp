@@ -202,6 +202,11 @@ void SchemeStoreBackendTest::randomMapsSurviveSavingOverOneAnother()
     for (quint32 seed = 1; seed <= 10; ++seed) {
         RandomSchemes random(seed);
         AlarmInfoMap map = random.Map();
+        const QList<AlarmSourceKey> keys = map.keys();
+        for (const AlarmSourceKey& key : keys) {
+            if (RandomSchemes::NamesColumn(key))
+                map.remove(key);
+        }
         QVERIFY2(backend.Save(map) == 0, qPrintable(QString::number(seed)));
         QCOMPARE(backend.Load(stored), 0);
         // Nothing is lost: keys that were left out are still there, switched off.
