@@ -61,12 +61,14 @@ AlarmInfo RichScheme(int iScheme)
     info.videoSplit.SplitCloum = 2;
     info.videoSplit.SplitCount = 4;
     info.videoSplit.cells[iScheme % 4].iCombine = 1;
-    for (int window = 0; window < 2; ++window)
+    for (int window = 0; window < 2; ++window) {
         info.videoSplit.videoLinks[window].strLinkDevID =
             EventSource::Door(9000000 + (iScheme + window) % s_iCameras, 1);
-    for (int link = 0; link < 3; ++link)
+    }
+    for (int link = 0; link < 3; ++link) {
         info.listAlarmOut.append(
             AlarmLinkAlarmOut{EventSource::AlarmOutput(8000000 + (iScheme + link) % s_iOutputs), true, 20});
+    }
     for (int day = 1; day < 6; ++day)
         info.defenceTime[day] = {{0, 7 * 3600 + 60 * (iScheme % 60)}, {18 * 3600, 86399}};
     return info;
@@ -145,10 +147,11 @@ public:
             const int columns = sqlite3_column_count(statement);
             while (sqlite3_step(statement) == SQLITE_ROW) {
                 for (int column = 0; column < columns; ++column) {
-                    if (sqlite3_column_type(statement, column) == SQLITE_TEXT)
+                    if (sqlite3_column_type(statement, column) == SQLITE_TEXT) {
                         benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
-                    else
+                    } else {
                         benchmark::DoNotOptimize(sqlite3_column_int64(statement, column));
+                    }
                 }
                 if (keys) {
                     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 1));
@@ -386,12 +389,24 @@ int RunOnce(const QByteArray& work)
         Save(store, map);
     AlarmInfoMap loaded;
     // The counting program looks at these two calls only.
-    if (work == "load")
+    if (work == "load") {
         Check(store.ReadAll(&loaded) == 0 && loaded == map, "the schemes were not read");
-    else
+    } else {
         Save(store, map);
+    }
     return 0;
 }
+
+void Sizes(benchmark::internal::Benchmark* pBenchmark)
+{
+    pBenchmark->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(5)->UseManualTime()->Unit(
+        benchmark::kMillisecond);
+}
+BENCHMARK(load_vs_raw)->Apply(Sizes);
+BENCHMARK(save_new_vs_raw)->Apply(Sizes);
+BENCHMARK(save_again_vs_raw)->Apply(Sizes);
+BENCHMARK(save_one_vs_whole)->Apply(Sizes);
+BENCHMARK(bytes_per_default_scheme)->Apply(Sizes);
 
 } // namespace
 
@@ -401,19 +416,6 @@ int main(int argc, char** argv)
     if (argc == 3 && QByteArray(argv[1]) == "--instructions")
         return RunOnce(argv[2]);
 
-    const auto add = [](const char* szName, void (*function)(benchmark::State&)) {
-        for (const auto& [size, runs] : {std::pair(1000, 15), std::pair(10000, 7), std::pair(100000, 3)})
-            benchmark::RegisterBenchmark(szName, function)
-                ->Arg(size)
-                ->Iterations(runs)
-                ->UseManualTime()
-                ->Unit(benchmark::kMillisecond);
-    };
-    add("load_vs_raw", load_vs_raw);
-    add("save_new_vs_raw", save_new_vs_raw);
-    add("save_again_vs_raw", save_again_vs_raw);
-    add("save_one_vs_whole", save_one_vs_whole);
-    add("bytes_per_default_scheme", bytes_per_default_scheme);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

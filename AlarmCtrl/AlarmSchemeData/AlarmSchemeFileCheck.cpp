@@ -81,10 +81,8 @@ public:
     FirstRow(sqlite3* pDatabase, const QByteArray& sql)
     {
         sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(pDatabase, sql.constData(), sql.size(), &statement, nullptr) == SQLITE_OK)
-            m_query = AlarmSchemeQuery(statement);
-        else
-            sqlite3_finalize(statement);
+        sqlite3_prepare_v2(pDatabase, sql.constData(), sql.size(), &statement, nullptr);
+        m_query = AlarmSchemeQuery(statement); // null when it did not compile
         m_bRow = m_query && m_query.Step() == SQLITE_ROW;
     }
     explicit operator bool() const { return m_bRow; }
@@ -124,7 +122,8 @@ bool HasShape(sqlite3* pDatabase, const TableShape& table)
     columns += ":00";
     columns.replace(columns.indexOf(":00"), 3, ":11");
     QByteArray foreign;
-    for (const QByteArray& column : QByteArray(table.szForeign).split(' ')) {
+    const QList<QByteArray> foreignColumns = QByteArray(table.szForeign).split(' ');
+    for (const QByteArray& column : foreignColumns) {
         if (!column.isEmpty())
             foreign += column + ':' + column + ':' + column + ":CASCADE:CASCADE ";
     }

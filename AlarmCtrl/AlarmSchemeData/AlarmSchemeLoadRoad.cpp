@@ -262,9 +262,10 @@ void AlarmSchemeLoadRoad::ReadRegion(Scheme& scheme, const AlarmSchemeRun& row)
     const int64_t day = row.Int64(1);
     const int64_t begin = row.Int64(2);
     const int64_t end = row.Int64(3);
-    if (IsSoundTimeRow(day, begin, end))
+    if (IsSoundTimeRow(day, begin, end)) {
         m_regions.push_back(
             Region{static_cast<int>(day - 1), {static_cast<int32_t>(begin), static_cast<int32_t>(end)}});
+    }
 }
 
 void AlarmSchemeLoadRoad::FinishRegions()

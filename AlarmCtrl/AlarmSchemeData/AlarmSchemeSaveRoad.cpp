@@ -19,10 +19,11 @@ void PutLink(std::vector<std::pair<int64_t, const Link*>>& links, QHash<int64_t,
     if (links.size() < few) {
         const auto found =
             std::find_if(links.begin(), links.end(), [iId](const auto& one) { return one.first == iId; });
-        if (found != links.end())
+        if (found != links.end()) {
             found->second = &link;
-        else
+        } else {
             links.emplace_back(iId, &link);
+        }
         return;
     }
     if (places.isEmpty()) {

@@ -33,8 +33,17 @@ AlarmSchemeRun& AlarmSchemeRun::Bind(const QByteArray& text)
     return *this;
 }
 
+sqlite3_value* AlarmSchemeRun::Value(int iColumn) const
+{
+    sqlite3_value*& value = m_values[static_cast<size_t>(iColumn)];
+    if (value == nullptr)
+        value = sqlite3_column_value(m_pStatement, iColumn);
+    return value;
+}
+
 bool AlarmSchemeRun::Next()
 {
+    m_values.fill(nullptr);
     m_iResult = m_pStatement != nullptr ? sqlite3_step(m_pStatement) : SQLITE_MISUSE;
     return m_iResult == SQLITE_ROW;
 }
@@ -46,35 +55,35 @@ bool AlarmSchemeRun::IsDone() const
 
 bool AlarmSchemeRun::IsInteger(int iColumn) const
 {
-    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_INTEGER;
+    return sqlite3_value_type(Value(iColumn)) == SQLITE_INTEGER;
 }
 
 bool AlarmSchemeRun::IsNull(int iColumn) const
 {
-    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_NULL;
+    return sqlite3_value_type(Value(iColumn)) == SQLITE_NULL;
 }
 
 int64_t AlarmSchemeRun::Int64(int iColumn) const
 {
-    return sqlite3_column_int64(m_pStatement, iColumn);
+    return sqlite3_value_int64(Value(iColumn));
 }
 
 int32_t AlarmSchemeRun::Int(int iColumn) const
 {
-    return sqlite3_column_int(m_pStatement, iColumn);
+    return sqlite3_value_int(Value(iColumn));
 }
 
 bool AlarmSchemeRun::IsText(int iColumn) const
 {
-    return sqlite3_column_type(m_pStatement, iColumn) == SQLITE_TEXT;
+    return sqlite3_value_type(Value(iColumn)) == SQLITE_TEXT;
 }
 
 const char* AlarmSchemeRun::Bytes(int iColumn) const
 {
-    return reinterpret_cast<const char*>(sqlite3_column_text(m_pStatement, iColumn));
+    return reinterpret_cast<const char*>(sqlite3_value_text(Value(iColumn)));
 }
 
 int AlarmSchemeRun::Size(int iColumn) const
 {
-    return sqlite3_column_bytes(m_pStatement, iColumn);
+    return sqlite3_value_bytes(Value(iColumn));
 }

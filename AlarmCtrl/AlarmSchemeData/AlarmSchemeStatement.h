@@ -2,10 +2,12 @@
 
 #include <QByteArray>
 
+#include <array>
 #include <cstdint>
 
 struct sqlite3;
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 /// A statement that is compiled once and run many times; finalized at the end of its scope. The connection
 /// must outlive it.
@@ -29,7 +31,8 @@ private:
     sqlite3_stmt* m_pStatement = nullptr;
 };
 
-/// One run of a statement. At the end of its scope the statement is ready for the next one.
+/// One run of a statement with up to eight columns. At the end of its scope the statement is ready for the
+/// next one. Values of a row are valid until the next row.
 class AlarmSchemeRun
 {
 public:
@@ -59,12 +62,18 @@ public:
     int32_t Int(int iColumn) const;
     bool Flag(int iColumn) const { return Int(iColumn) != 0; }
     bool IsText(int iColumn) const;
-    /// The stored bytes of a text, until the next row.
+    /// The bytes of the value as text.
     const char* Bytes(int iColumn) const;
     int Size(int iColumn) const;
 
 private:
+    static constexpr int MostColumns = 8;
+
+    /// Fetched once a row: asking the statement takes and gives back a lock each time.
+    sqlite3_value* Value(int iColumn) const;
+
     sqlite3_stmt* m_pStatement;
+    mutable std::array<sqlite3_value*, MostColumns> m_values{};
     int m_iBound = 0;
     int m_iResult = 0;
 };

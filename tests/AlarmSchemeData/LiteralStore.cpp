@@ -189,9 +189,10 @@ void LiteralStore::SaveOne(const AlarmSourceKey& key, const AlarmInfo& info)
     if (const string id = Ensure(key); !id.empty()) {
         Run("delete from AlarmDefenceTimeInfo where AlarmUniqueID = " + id + ";");
         for (int day = 0; day < 7; ++day) {
-            for (const AlarmTimeRegion& region : info.defenceTime[day])
+            for (const AlarmTimeRegion& region : info.defenceTime[day]) {
                 Run("insert into AlarmDefenceTimeInfo(AlarmUniqueID, Day, Begin, End) values(" + id + "," +
                     to_string(day + 1) + "," + to_string(region.Begin) + "," + to_string(region.End) + ");");
+            }
         }
     }
 }
@@ -313,9 +314,10 @@ AlarmInfo LiteralStore::ReadOne(const AlarmSourceKey& key)
         const sqlite3_int64 day = sqlite3_column_int64(row, 0);
         const sqlite3_int64 begin = sqlite3_column_int64(row, 1);
         const sqlite3_int64 end = sqlite3_column_int64(row, 2);
-        if (day >= 1 && day <= 7 && begin >= 0 && end >= 0 && begin <= end && end <= 2147483647)
+        if (day >= 1 && day <= 7 && begin >= 0 && end >= 0 && begin <= end && end <= 2147483647) {
             week[static_cast<int>(day) - 1].append(
                 AlarmTimeRegion{static_cast<int32_t>(begin), static_cast<int32_t>(end)});
+        }
     });
     if (base || time)
         info.defenceTime = week;

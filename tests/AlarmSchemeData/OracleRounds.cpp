@@ -9,6 +9,8 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+
 namespace {
 
 QString OtherFile(const StoreFolder& folder)
@@ -25,9 +27,10 @@ QStringList Content(RawDatabase& database)
 QString Difference(const QString& strWhat, const QStringList& found, const QStringList& expected)
 {
     for (int line = 0; line < qMax(found.size(), expected.size()); ++line) {
-        if (found.value(line) != expected.value(line))
+        if (found.value(line) != expected.value(line)) {
             return QStringLiteral("%1, line %2: found %3, expected %4")
                 .arg(strWhat, QString::number(line), found.value(line), expected.value(line));
+        }
     }
     return QString();
 }
@@ -38,12 +41,13 @@ QString LoadBoth(const QString& strWhat, AlarmSchemeDatabaseParser& store, Liter
     if (store.ReadAll(&loaded) != 0)
         return strWhat + QStringLiteral(": the load failed");
     const AlarmInfoMap expected = literal.ReadAll();
-    if (loaded.keys() != expected.keys())
+    if (!std::equal(loaded.keyBegin(), loaded.keyEnd(), expected.keyBegin(), expected.keyEnd()))
         return strWhat + QStringLiteral(": other keys were loaded");
     for (auto entry = expected.cbegin(); entry != expected.cend(); ++entry) {
-        if (loaded.value(entry.key()) != entry.value())
+        if (loaded.value(entry.key()) != entry.value()) {
             return strWhat + QStringLiteral(": other values of %1 / %2")
                                  .arg(entry.key().strEventSource, QString::number(entry.key().AlarmType));
+        }
     }
     return QString();
 }
@@ -69,13 +73,14 @@ QString OracleRounds::SaveRandomMaps(quint32 iSeed)
     for (int round = 0; round < 5; ++round) {
         const AlarmInfoMap map = random.Map();
         const bool whole = round % 3 != 2;
-        if (whole)
+        if (whole) {
             literal.SaveAll(map);
-        else
+        } else {
             literal.SaveSome(map);
+        }
         if ((whole ? store.SaveAll(&map) : store.SaveSchemes(map)) != 0)
             return QStringLiteral("the save failed");
-        const QString difference =
+        QString difference =
             Difference(QStringLiteral("round %1").arg(round), Content(saved), Content(other));
         if (!difference.isEmpty())
             return difference;

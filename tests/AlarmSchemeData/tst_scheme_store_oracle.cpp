@@ -50,7 +50,8 @@ void SchemeStoreOracleTest::loadingRandomRowsReadsWhatTheLiteralStatementsRead()
         OracleRounds::HurryAlong(other.Handle());
         QRandomGenerator random(seed);
         other.Run(QStringLiteral("begin"));
-        for (const QString& table : RawDatabase::Tables()) {
+        const QStringList tables = RawDatabase::Tables();
+        for (const QString& table : tables) {
             const QStringList columns = other.Rows(
                 QStringLiteral("select name from pragma_table_xinfo('%1') where pk = 0").arg(table));
             for (int row = random.bounded(12); row > 0 && table != QLatin1String("BaseInfo"); --row) {

@@ -206,8 +206,10 @@ void SchemeStoreRoadsTest::aKnownFileIsReadAndWrittenInOnePass()
     QVERIFY(IsReadInOnePass());
     QVERIFY(IsWrittenInOnePass());
     // Also one that lay without indexes and without the mail column until now.
-    for (const QString& index :
-         m_raw->Rows(QStringLiteral("select name from sqlite_master where type = 'index'")))
+    const QStringList indexes =
+        m_raw->Rows(QStringLiteral("select name from sqlite_master where type = 'index'"));
+    QCOMPARE(indexes.size(), 9);
+    for (const QString& index : indexes)
         Change(QStringLiteral("drop index ") + index);
     Change(QStringLiteral("alter table AlarmBaseInfo drop column bSendEmail"));
     m_store.reset();
@@ -633,7 +635,8 @@ void SchemeStoreRoadsTest::aFailingStatementIsCountedLoggedAndLeavesTheRoad()
     sqlite3_set_authorizer(m_store->GetHandle(), nullptr, nullptr);
     QVERIFY(m_store->FailedStatements() > 0);
     QCOMPARE(int64_t(m_log->Messages().size()), m_store->FailedStatements());
-    for (const QString& message : m_log->Messages())
+    const QStringList messages = m_log->Messages();
+    for (const QString& message : messages)
         QVERIFY(message.startsWith(QLatin1String("AlarmSchemeDatabaseParser ExecOnce failed, error = ")));
     QVERIFY(m_store->TakeFirstFailure());
 }
