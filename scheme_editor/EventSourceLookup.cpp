@@ -50,7 +50,7 @@ EventSourceLookup::AlarmInputs EventSourceLookup::AlarmInputsOf(IDeviceManager& 
         return result;
     result.strDeviceName = device.strName;
     const bool bAccessControl = manager.GetDeviceType(*iDeviceId) == VantaLogic::DeviceTypeAccessControl;
-    for (const VantaLogic::ChannelInfo& listed : device.channels) {
+    for (const VantaLogic::ChannelInfo& listed : qAsConst(device.channels)) {
         VantaLogic::ChannelInfo channel;
         if (manager.GetChannel(listed.iChannelId, channel) == 0 &&
             channel.iChannelType == VantaLogic::ChannelTypeAlarmInput) {
