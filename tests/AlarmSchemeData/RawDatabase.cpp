@@ -58,8 +58,8 @@ QStringList RawDatabase::Content()
     for (const QString& table : Tables()) {
         content.append(table);
         QStringList columns;
-        for (const QString& row :
-             Rows(QStringLiteral("select name from pragma_table_xinfo('%1')").arg(table))) {
+        const QStringList rows = Rows(QStringLiteral("select name from pragma_table_xinfo('%1')").arg(table));
+        for (const QString& row : rows) {
             if (row != QLatin1String("ModifyTime"))
                 columns.append(QStringLiteral("quote([%1])").arg(row));
         }

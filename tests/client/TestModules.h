@@ -28,7 +28,7 @@ inline bool Install(const QString& strModule, const QString& strProgramDirectory
 
 inline QStringList TakeCalls()
 {
-    const QStringList calls = qApp->property("moduleCalls").toStringList();
+    QStringList calls = qApp->property("moduleCalls").toStringList();
     qApp->setProperty("moduleCalls", QStringList());
     return calls;
 }
