@@ -1,9 +1,10 @@
 #include "client/store/AlarmSchemeStoreBackend.h"
 
-#include "client/store/SaveTransaction.h"
-#include "client/store/StoreConnection.h"
+#include "client/store/StoredSchemes.h"
 
-#include <sqlite3.h>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
 
 #include <utility>
 
@@ -12,116 +13,227 @@ namespace {
 using Operation = SchemeStoreOutcome::Operation;
 using Reason = SchemeStoreOutcome::Reason;
 
-SchemeStoreOutcome FailureOf(Operation eOperation, const std::optional<AlarmSchemeStatementFailure>& failure,
-                             Reason eWithout)
+SchemeStoreOutcome OutcomeOf(const LoadResult& result, int iSchemes)
 {
-    if (!failure)
-        return SchemeStoreOutcome::Failure(eOperation, eWithout, QString());
-    Reason reason = ReasonOfFailure(*failure);
-    // An open file whose journal cannot be made beside it lies in a folder that cannot be written.
-    if (eOperation == Operation::Save && reason == Reason::NotOpen)
-        reason = Reason::ReadOnly;
-    return SchemeStoreOutcome::Failure(eOperation, reason, failure->strMessage);
+    return result.eReason == Reason::None
+               ? SchemeStoreOutcome::Success(Operation::Load, iSchemes)
+               : SchemeStoreOutcome::Failure(Operation::Load, result.eReason, result.strTechnical);
+}
+
+SchemeStoreOutcome OutcomeOf(const SaveResult& result)
+{
+    if (result.eReason != Reason::None)
+        return SchemeStoreOutcome::Failure(Operation::Save, result.eReason, result.strTechnical);
+    return SchemeStoreOutcome::Saved(result.iSchemes, result.iKept);
 }
 
 } // namespace
 
 AlarmSchemeStoreBackend::AlarmSchemeStoreBackend()
-    : m_connection(std::make_unique<StoreConnection>())
+    : m_progress(std::make_shared<SaveProgress>())
     , m_lastLoad(SchemeStoreOutcome::Failure(Operation::Load, Reason::NotLoaded, QString()))
     , m_last(m_lastLoad)
 {
-    // Not waiting here: a load follows, and waits if it has to.
-    m_connection->Open();
+    m_thread.setObjectName(QStringLiteral("SchemeStore"));
+    m_worker.moveToThread(&m_thread);
+    m_thread.start();
+    OnWorker([this] {
+        m_schemes = std::make_unique<StoredSchemes>(std::chrono::milliseconds(BusyTimeOut));
+        m_bOpen = m_schemes->IsOpen();
+        m_strPath = m_schemes->GetPath();
+    });
 }
 
-AlarmSchemeStoreBackend::~AlarmSchemeStoreBackend() = default;
+AlarmSchemeStoreBackend::~AlarmSchemeStoreBackend()
+{
+    m_bEnding = true;
+    WaitForSaves();
+    OnWorker([this] { m_schemes.reset(); });
+    m_thread.quit();
+    m_thread.wait();
+}
+
+template <typename Work>
+void AlarmSchemeStoreBackend::OnWorker(Work&& work)
+{
+    QMetaObject::invokeMethod(&m_worker, std::forward<Work>(work), Qt::BlockingQueuedConnection);
+}
 
 void AlarmSchemeStoreBackend::SetOutcomeHandler(OutcomeHandler handler)
 {
     m_handler = std::move(handler);
 }
 
-const SchemeStoreOutcome& AlarmSchemeStoreBackend::LastOutcome() const
+void AlarmSchemeStoreBackend::SetConflictHandler(ConflictHandler handler)
 {
-    return m_last;
+    m_conflictHandler = std::move(handler);
 }
 
-bool AlarmSchemeStoreBackend::IsOpen() const
+void AlarmSchemeStoreBackend::SetReloadHandler(ReloadHandler handler)
 {
-    return m_connection->IsOpen();
+    m_reloadHandler = std::move(handler);
 }
 
-QString AlarmSchemeStoreBackend::GetPath() const
+bool AlarmSchemeStoreBackend::IsSaving() const
 {
-    return IsOpen() ? m_connection->Store()->GetPath() : QString();
+    return m_eState != State::Idle || m_queued;
+}
+
+int AlarmSchemeStoreBackend::SchemesWritten() const
+{
+    return m_progress->iWritten;
+}
+
+int AlarmSchemeStoreBackend::SchemesToWrite() const
+{
+    return m_progress->iSchemes;
+}
+
+void AlarmSchemeStoreBackend::WaitForSaves()
+{
+    while (m_eState == State::Writing || (m_eState == State::Idle && m_queued)) {
+        if (m_eState == State::Idle) {
+            StartNext();
+            continue;
+        }
+        OnWorker([] {}); // the worker takes one thing after the other
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
 }
 
 int AlarmSchemeStoreBackend::Load(AlarmInfoMap& map)
 {
-    m_lastLoad = DoLoad(map);
+    const bool loading = std::exchange(m_bLoading, true);
+    WaitForSaves();
+    m_bLoading = loading;
+
+    ++m_iLoads;
+    LoadResult result;
+    OnWorker([this, &map, &result] {
+        result = m_schemes->Load(map);
+        m_bOpen = m_schemes->IsOpen();
+        m_strPath = m_schemes->GetPath();
+    });
+    m_lastLoad = OutcomeOf(result, map.size());
     return Report(m_lastLoad);
 }
 
 int AlarmSchemeStoreBackend::Save(const AlarmInfoMap& map)
 {
-    return Report(DoSave(map));
+    if (!m_lastLoad.IsSuccess())
+        return Report(SchemeStoreOutcome::RefusedSave(m_lastLoad));
+    if (m_eState != State::Idle) {
+        m_queued = map;
+        return 0;
+    }
+    m_queued.reset();
+    Start(map, std::nullopt);
+    TellSaving(true);
+    return 0;
+}
+
+void AlarmSchemeStoreBackend::Start(const AlarmInfoMap& map,
+                                    const std::optional<SchemeConflictAnswer>& answer)
+{
+    m_eState = State::Writing;
+    m_current = map;
+    const auto write = [this, map, answer, progress = m_progress] {
+        const SaveResult result = m_schemes->Save(map, answer, *progress);
+        // The object stands: it ends only after this thread has.
+        QMetaObject::invokeMethod(
+            this,
+            [this, result, open = m_schemes->IsOpen(), path = m_schemes->GetPath()] {
+                OnSaved(result, open, path);
+            },
+            Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(&m_worker, write, Qt::QueuedConnection);
+}
+
+void AlarmSchemeStoreBackend::OnSaved(const SaveResult& result, bool bOpen, const QString& strPath)
+{
+    m_bOpen = bOpen;
+    m_strPath = strPath;
+    if (result.eReason == Reason::Conflict) {
+        OnConflict(result.conflict);
+        return;
+    }
+    End(OutcomeOf(result));
+}
+
+void AlarmSchemeStoreBackend::OnConflict(const SchemeConflict& conflict)
+{
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    const SchemeConflictAnswer answer = Ask(conflict);
+    if (self.isNull())
+        return;
+    // The question is about the newest map; that it may have become newer meanwhile changes nothing.
+    if (m_queued) {
+        m_current = *m_queued;
+        m_queued.reset();
+    }
+    if (answer == SchemeConflictAnswer::SaveOver || answer == SchemeConflictAnswer::KeepOthers) {
+        Start(AlarmInfoMap(m_current), answer);
+        return;
+    }
+    const bool reload = answer == SchemeConflictAnswer::Reload && !m_bLoading && m_reloadHandler;
+    const ReloadHandler reloadHandler = reload ? m_reloadHandler : ReloadHandler();
+    End(SchemeStoreOutcome::Failure(Operation::Save, Reason::Conflict, QString()), reload);
+    if (reload && !self.isNull())
+        reloadHandler();
+}
+
+void AlarmSchemeStoreBackend::End(const SchemeStoreOutcome& outcome, bool bSilent)
+{
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    m_eState = State::Idle;
+    m_current.clear();
+    if (bSilent)
+        m_last = outcome;
+    else
+        Report(outcome);
+    // The handler may have done anything but for what is asked here.
+    if (!self.isNull() && m_eState == State::Idle)
+        StartNext();
+}
+
+SchemeConflictAnswer AlarmSchemeStoreBackend::Ask(const SchemeConflict& conflict)
+{
+    if (m_bEnding || !m_conflictHandler)
+        return SchemeConflictAnswer::Cancel;
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    m_eState = State::Asking;
+    const int loads = m_iLoads;
+    const ConflictHandler ask = m_conflictHandler;
+    const SchemeConflictAnswer answer = ask(conflict);
+    // What was loaded during the question is not what the question was about.
+    return self.isNull() || loads != m_iLoads ? SchemeConflictAnswer::Cancel : answer;
+}
+
+void AlarmSchemeStoreBackend::StartNext()
+{
+    if (!m_queued) {
+        TellSaving(false);
+        return;
+    }
+    const AlarmInfoMap next = *m_queued;
+    m_queued.reset();
+    Start(next, std::nullopt);
+}
+
+void AlarmSchemeStoreBackend::TellSaving(bool bSaving)
+{
+    if (std::exchange(m_bSaving, bSaving) != bSaving)
+        Q_EMIT SignalSavingChanged(bSaving);
 }
 
 int AlarmSchemeStoreBackend::Report(const SchemeStoreOutcome& outcome)
 {
     m_last = outcome;
     const int status = outcome.IsSuccess() ? 0 : -1;
-    if (m_handler)
-        m_handler(SchemeStoreOutcome(outcome)); // a copy: the handler may load again
+    // Copies: the handler may load again, or be removed.
+    const OutcomeHandler handler = m_handler;
+    if (handler)
+        handler(SchemeStoreOutcome(outcome));
     return status;
-}
-
-SchemeStoreOutcome AlarmSchemeStoreBackend::DoLoad(AlarmInfoMap& map)
-{
-    map.clear();
-    m_connection->AllowWaiting(std::chrono::milliseconds(BusyTimeOut));
-    if (!IsOpen() || m_connection->OpeningFailure() || m_connection->IsMoved())
-        m_connection->Open();
-    if (!IsOpen())
-        return FailureOf(Operation::Load, m_connection->OpeningFailure(), Reason::NotOpen);
-
-    AlarmSchemeDatabaseParser& store = *m_connection->Store();
-    store.TakeFirstFailure();
-    const int64_t failedBefore = store.FailedStatements();
-    const int32_t status = store.ReadAll(&map);
-    if (status != 0 || store.FailedStatements() != failedBefore)
-        return FailureOf(Operation::Load, store.TakeFirstFailure(), Reason::Other);
-    const auto& opening = m_connection->OpeningFailure();
-    if (opening && ReasonOfFailure(*opening) == Reason::Damaged)
-        return FailureOf(Operation::Load, opening, Reason::Damaged);
-    return SchemeStoreOutcome::Success(Operation::Load, map.size());
-}
-
-SchemeStoreOutcome AlarmSchemeStoreBackend::DoSave(const AlarmInfoMap& map)
-{
-    if (!m_lastLoad.IsSuccess())
-        return SchemeStoreOutcome::RefusedSave(m_lastLoad);
-    m_connection->AllowWaiting(std::chrono::milliseconds(BusyTimeOut));
-    // What kept the opening from writing may be gone by now.
-    if (!IsOpen() || m_connection->OpeningFailure())
-        m_connection->Open();
-    if (!IsOpen())
-        return FailureOf(Operation::Save, m_connection->OpeningFailure(), Reason::NotOpen);
-
-    AlarmSchemeDatabaseParser& store = *m_connection->Store();
-    bool saved = false;
-    {
-        SaveTransaction transaction(store);
-        if (transaction.IsAlive())
-            store.SaveAll(&map, [&transaction] { return transaction.IsAlive(); });
-        saved = transaction.Commit();
-    }
-    // A connection that could not even roll back does so by being closed.
-    const bool stuck = sqlite3_get_autocommit(store.GetHandle()) == 0;
-    const std::optional<AlarmSchemeStatementFailure> failure = store.TakeFirstFailure();
-    if (stuck)
-        m_connection->Close();
-    return saved ? SchemeStoreOutcome::Success(Operation::Save, map.size())
-                 : FailureOf(Operation::Save, failure, Reason::Other);
 }

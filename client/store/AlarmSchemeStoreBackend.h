@@ -1,55 +1,121 @@
 #pragma once
 
+#include "client/store/SchemeConflict.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "platform/SystemLibrary/AlarmSchemeManager.h"
 
+#include <QObject>
 #include <QString>
+#include <QThread>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
-class StoreConnection;
+class StoredSchemes;
+struct LoadResult;
+struct SaveProgress;
+struct SaveResult;
 
 /// Keeps the schemes of the client in "AlarmScheme.db".
 ///
 /// Made after SystemPaths::SetDataDirectory: creates the database directory and opens the store. What could
-/// not be opened then is tried again by the next Load. A save is all or nothing, and it is refused unless the
-/// last load read every stored scheme: a map that misses schemes would switch the missing ones off. Another
-/// process that holds the database is waited for, up to five seconds in all for one load or save; the calling
-/// thread waits. User-interface thread only.
-class AlarmSchemeStoreBackend : public IAlarmSchemeBackend
+/// not be opened then is tried again by the next Load. The file is read and written on a thread of its own.
+/// A load is waited for; a save goes on by itself: Save only takes the map, a shared copy, and the outcome
+/// follows later, through the event loop. A map that comes while another is being written waits for it, and
+/// gives way to one that is newer still.
+///
+/// A save is all or nothing, and it writes what has changed: the schemes that differ from what the file holds
+/// once they are stored. When none does, nothing is written, the time of the last change included. It is
+/// refused unless the last load read every stored scheme: a map that misses schemes would switch the missing
+/// ones off. What another process has stored since the load is never overwritten without a question. Another
+/// process that holds the database is waited for, up to five seconds in all for one load or save.
+/// User-interface thread only.
+class AlarmSchemeStoreBackend : public QObject, public IAlarmSchemeBackend
 {
+    Q_OBJECT
+
 public:
     /// Longest time that one load or save waits for other processes, in milliseconds.
     static constexpr int BusyTimeOut = 5000;
 
     using OutcomeHandler = std::function<void(const SchemeStoreOutcome&)>;
+    using ConflictHandler = std::function<SchemeConflictAnswer(const SchemeConflict&)>;
+    using ReloadHandler = std::function<void()>;
 
     AlarmSchemeStoreBackend();
+    /// Waits until everything is written that Save has taken. Without asking: a save that would have to ask
+    /// does not take place.
     ~AlarmSchemeStoreBackend() override;
     AlarmSchemeStoreBackend(const AlarmSchemeStoreBackend&) = delete;
     AlarmSchemeStoreBackend& operator=(const AlarmSchemeStoreBackend&) = delete;
 
-    /// 0 when every stored scheme was read. Otherwise -1, and the map holds what could be read.
+    /// 0 when every stored scheme was read. Otherwise -1, and the map holds what could be read. Waits for the
+    /// saves before it.
     int Load(AlarmInfoMap& map) override;
-    /// 0 when the whole map was written. Otherwise -1, and the file holds exactly the old schemes.
+    /// 0 when the map was taken; -1 when saving is refused. When a save has failed, the file holds exactly
+    /// the old schemes.
     int Save(const AlarmInfoMap& map) override;
 
-    /// Is called at the end of every load and save, before it returns. Null removes it.
+    /// Is called at the end of every load, before it returns, and of every save. Null removes it.
     void SetOutcomeHandler(OutcomeHandler handler);
-    /// How the last load or save ended; before the first one a load that is still to come (NotLoaded).
-    const SchemeStoreOutcome& LastOutcome() const;
+    /// Is asked when another program has changed the file since it was loaded; may run an event loop. Without
+    /// one the answer is to save nothing.
+    void SetConflictHandler(ConflictHandler handler);
+    /// Is called when the answer was to load the schemes anew; has to see to it that Load is called.
+    void SetReloadHandler(ReloadHandler handler);
 
-    bool IsOpen() const;
-    QString GetPath() const; ///< of the open database; empty while it is closed
+    /// How the last load or save ended; before the first one a load that is still to come (NotLoaded).
+    const SchemeStoreOutcome& LastOutcome() const { return m_last; }
+
+    bool IsSaving() const;      ///< until the outcome of everything that Save has taken is known
+    int SchemesWritten() const; ///< by the present save
+    int SchemesToWrite() const; ///< by the present save; 0 until it is known
+    void WaitForSaves();        ///< returns when nothing is being saved; asks its questions
+
+    bool IsOpen() const { return m_bOpen; }
+    QString GetPath() const { return m_strPath; } ///< of the open database; empty while it is closed
+
+Q_SIGNALS:
+    void SignalSavingChanged(bool bSaving);
 
 private:
-    SchemeStoreOutcome DoLoad(AlarmInfoMap& map);
-    SchemeStoreOutcome DoSave(const AlarmInfoMap& map);
+    enum class State
+    {
+        Idle,
+        Writing,
+        Asking,
+    };
+
+    template <typename Work>
+    void OnWorker(Work&& work);
+    void Start(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer);
+    void OnSaved(const SaveResult& result, bool bOpen, const QString& strPath);
+    void OnConflict(const SchemeConflict& conflict);
+    SchemeConflictAnswer Ask(const SchemeConflict& conflict);
+    void End(const SchemeStoreOutcome& outcome, bool bSilent = false);
+    void StartNext();
+    void TellSaving(bool bSaving);
     int Report(const SchemeStoreOutcome& outcome);
 
-    std::unique_ptr<StoreConnection> m_connection;
+    QThread m_thread;
+    QObject m_worker;                         ///< lives on the thread
+    std::unique_ptr<StoredSchemes> m_schemes; ///< used, made and destroyed on the thread
+    std::shared_ptr<SaveProgress> m_progress;
+
+    State m_eState = State::Idle;
+    bool m_bSaving = false;  ///< as it was told last
+    bool m_bLoading = false; ///< reloading would be for nothing
+    bool m_bEnding = false;
+    int m_iLoads = 0;
+    AlarmInfoMap m_current;               ///< being written, or asked about
+    std::optional<AlarmInfoMap> m_queued; ///< to be written next
+
+    bool m_bOpen = false;
+    QString m_strPath;
     SchemeStoreOutcome m_lastLoad; ///< decides whether a save is allowed
     SchemeStoreOutcome m_last;
     OutcomeHandler m_handler;
+    ConflictHandler m_conflictHandler;
+    ReloadHandler m_reloadHandler;
 };

@@ -53,6 +53,18 @@ SchemeStoreOutcome SchemeStoreOutcome::Success(Operation eOperation, int iScheme
     return outcome;
 }
 
+SchemeStoreOutcome SchemeStoreOutcome::Saved(int iSchemes, int iKept)
+{
+    SchemeStoreOutcome outcome = Success(Operation::Save, iSchemes);
+    if (iSchemes == 0)
+        outcome.strWhat = tr("No scheme has changed; nothing had to be saved.");
+    if (iKept > 0)
+        outcome.strNext = tr("%n scheme(s) stay as another program has saved them. To see them here, start "
+                             "this program again.",
+                             nullptr, iKept);
+    return outcome;
+}
+
 SchemeStoreOutcome SchemeStoreOutcome::Failure(Operation eOperation, Reason eReason,
                                                const QString& strTechnical)
 {
@@ -99,6 +111,8 @@ QString SchemeStoreOutcome::ReasonText(Reason eReason)
         return tr("the schemes have not been loaded yet.");
     case Reason::BadText:
         return tr("an event source holds a character that cannot be stored.");
+    case Reason::Conflict:
+        return tr("another program has changed the schemes.");
     case Reason::None:
     case Reason::LoadFailed:
     case Reason::Other:
@@ -139,6 +153,8 @@ QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
         return tr("Your changes are still here. Put the file back, then save again.");
     case Reason::Damaged:
         return tr("Restore a copy of the file, then start this program again.");
+    case Reason::Conflict:
+        return tr("Your changes are still here. Save again to choose what is kept.");
     default:
         return tr("Your changes are still here. Save again; if it happens again, see the log file.");
     }

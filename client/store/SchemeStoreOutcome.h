@@ -28,6 +28,7 @@ public:
         NotLoaded,  ///< refused to save: nothing was loaded before
         LoadFailed, ///< refused to save: the last load failed or was partial
         BadText,    ///< a key holds a character that cannot be stored
+        Conflict,   ///< another program has changed the schemes, and the operator chose not to save
         Other,      ///< any other failure of a statement
     };
 
@@ -43,6 +44,8 @@ public:
     QString Text() const;
 
     static SchemeStoreOutcome Success(Operation eOperation, int iSchemes);
+    /// A save that wrote so many schemes, perhaps none, and left so many as another program has stored them.
+    static SchemeStoreOutcome Saved(int iSchemes, int iKept);
     static SchemeStoreOutcome Failure(Operation eOperation, Reason eReason, const QString& strTechnical);
     /// A save that is refused because the last load ended as `load`.
     static SchemeStoreOutcome RefusedSave(const SchemeStoreOutcome& load);

@@ -3,6 +3,7 @@
 #include "tests/AlarmSchemeData/RandomSchemes.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client_store/SaveAndWait.h"
 
 #include <QtTest>
 
@@ -145,7 +146,7 @@ void SchemeStoreBackendTest::whatIsSavedIsLoadedByTheNextStart()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap loaded;
         QCOMPARE(backend.Load(loaded), 0);
-        QCOMPARE(backend.Save(map), 0);
+        QCOMPARE(SaveAndWait(backend, map), 0);
     }
     QVERIFY(Stored() == map);
 }
@@ -157,7 +158,7 @@ void SchemeStoreBackendTest::savingTellsHowManySchemesWereWritten()
     backend.SetOutcomeHandler([&outcomes](const SchemeStoreOutcome& outcome) { outcomes.append(outcome); });
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(7, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(7, true)), 0);
     QCOMPARE(outcomes.size(), 2);
     QVERIFY(outcomes.at(0).eOperation == Operation::Load && outcomes.at(0).IsSuccess());
     QVERIFY(outcomes.at(1).eOperation == Operation::Save && outcomes.at(1).IsSuccess());
@@ -171,7 +172,7 @@ void SchemeStoreBackendTest::loadingTwiceGivesTheSame()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap first;
     QCOMPARE(backend.Load(first), 0);
-    QCOMPARE(backend.Save(Map(5, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(5, true)), 0);
     QCOMPARE(backend.Load(first), 0);
     AlarmInfoMap second;
     QCOMPARE(backend.Load(second), 0);
@@ -189,7 +190,7 @@ void SchemeStoreBackendTest::loadingEmptiesTheMap()
 void SchemeStoreBackendTest::savingBeforeAnyLoadIsRefused()
 {
     AlarmSchemeStoreBackend backend;
-    QCOMPARE(backend.Save(Map(3, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::NotLoaded);
     QVERIFY(Stored().isEmpty());
 }
@@ -207,7 +208,7 @@ void SchemeStoreBackendTest::randomMapsSurviveSavingOverOneAnother()
             if (RandomSchemes::NamesColumn(key))
                 map.remove(key);
         }
-        QVERIFY2(backend.Save(map) == 0, qPrintable(QString::number(seed)));
+        QVERIFY2(SaveAndWait(backend, map) == 0, qPrintable(QString::number(seed)));
         QCOMPARE(backend.Load(stored), 0);
         // Nothing is lost: keys that were left out are still there, switched off.
         for (auto entry = stored.cbegin(); entry != stored.cend(); ++entry)
@@ -222,14 +223,14 @@ void SchemeStoreBackendTest::aFailedStatementKeepsTheOldSchemes()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(30, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(30, true)), 0);
     RawDatabase raw(m_folder->File());
     QCOMPARE(
         raw.Run(QStringLiteral("create trigger one before insert on AlarmLinkDoorInfo when "
                                "new.AlarmLinkDoorID = 17 begin select raise(abort, 'not this door'); end")),
         0);
     const QStringList before = raw.Content();
-    QCOMPARE(backend.Save(Map(40, false)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(40, false)), -1);
     QCOMPARE(raw.Content(), before);
     const SchemeStoreOutcome& outcome = backend.LastOutcome();
     QVERIFY(outcome.eOperation == Operation::Save && outcome.eReason == Reason::Other);
@@ -246,7 +247,7 @@ void SchemeStoreBackendTest::aFullDiskKeepsTheOldSchemes()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(10, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(10, true)), 0);
     }
     RawDatabase raw(m_folder->File());
     const QStringList before = raw.Content();
@@ -256,7 +257,7 @@ void SchemeStoreBackendTest::aFullDiskKeepsTheOldSchemes()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(400, false)), -1);
+        QCOMPARE(SaveAndWait(backend, Map(400, false)), -1);
         QVERIFY(backend.LastOutcome().eReason == Reason::DiskFull);
         QCOMPARE(raw.Content(), before);
     }
@@ -268,13 +269,13 @@ void SchemeStoreBackendTest::aTriggerThatRollsBackKeepsTheOldSchemes()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(30, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(30, true)), 0);
     RawDatabase raw(m_folder->File());
     QCOMPARE(raw.Run(QStringLiteral("create trigger one before insert on AlarmLinkDoorInfo when "
                                     "new.AlarmLinkDoorID = 17 begin select raise(rollback, 'back'); end")),
              0);
     const QStringList before = raw.Content();
-    QCOMPARE(backend.Save(Map(40, false)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(40, false)), -1);
     QCOMPARE(raw.Content(), before);
     QCOMPARE(backend.LastOutcome().strTechnical, QStringLiteral("back"));
 }
@@ -285,7 +286,7 @@ void SchemeStoreBackendTest::aWriteProtectedConnectionKeepsTheOldSchemes()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(3, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     }
     const QByteArray before = m_folder->Bytes();
     auto readOnly = std::make_unique<EveryConnection>(QStringLiteral("PRAGMA query_only = ON"));
@@ -293,12 +294,12 @@ void SchemeStoreBackendTest::aWriteProtectedConnectionKeepsTheOldSchemes()
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(3, true));
-    QCOMPARE(backend.Save(Map(4, false)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(4, false)), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::ReadOnly);
     QCOMPARE(m_folder->Bytes(), before);
     // When the protection is taken away, the next save is not refused for what was.
     readOnly.reset();
-    QCOMPARE(backend.Save(Map(4, false)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(4, false)), 0);
     QVERIFY(Stored() == Map(4, false));
 }
 
@@ -307,12 +308,12 @@ void SchemeStoreBackendTest::aKeyThatCannotBeStoredKeepsTheOldSchemes()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(3, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     RawDatabase raw(m_folder->File());
     const QStringList before = raw.Content();
     map = Map(5, false);
     map.insert(Key("x\",1; delete from AlarmUniqueID; --"), AlarmInfo());
-    QCOMPARE(backend.Save(map), -1);
+    QCOMPARE(SaveAndWait(backend, map), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::BadText);
     QCOMPARE(raw.Content(), before);
 }
@@ -326,9 +327,9 @@ void SchemeStoreBackendTest::savingSucceedsOnceTheTroubleIsGone()
     QCOMPARE(raw.Run(QStringLiteral("create trigger one before insert on AlarmUniqueID begin "
                                     "select raise(abort, 'no'); end")),
              0);
-    QCOMPARE(backend.Save(Map(4, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(4, true)), -1);
     QCOMPARE(raw.Run(QStringLiteral("drop trigger one")), 0);
-    QCOMPARE(backend.Save(Map(4, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(4, true)), 0);
     QVERIFY(Stored() == Map(4, true));
 }
 
@@ -342,7 +343,7 @@ void SchemeStoreBackendTest::aSaveStopsAtTheFirstFailure()
                                     "select raise(abort, 'no'); end")),
              0);
     m_log->Clear();
-    QCOMPARE(backend.Save(Map(300, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(300, true)), -1);
     // One scheme has six parts, each of which makes sure of the key.
     QVERIFY(m_log->Entries().size() <= 6);
 }
@@ -353,7 +354,7 @@ void SchemeStoreBackendTest::aPartialLoadMakesSavingRefuse()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(3, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     }
     RawDatabase raw(m_folder->File());
     QCOMPARE(
@@ -365,7 +366,7 @@ void SchemeStoreBackendTest::aPartialLoadMakesSavingRefuse()
     QCOMPARE(map.size(), 4);
     const SchemeStoreOutcome load = backend.LastOutcome();
     QVERIFY(load.eOperation == Operation::Load && load.eReason == Reason::BadText);
-    QCOMPARE(backend.Save(Map(1, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(1, true)), -1);
     QVERIFY(backend.LastOutcome().eOperation == Operation::Save);
     QVERIFY(backend.LastOutcome().eReason == Reason::LoadFailed);
     QVERIFY(backend.LastOutcome().Text().contains(load.strWhat));
@@ -381,10 +382,10 @@ void SchemeStoreBackendTest::aSoundLoadAllowsSavingAgain()
              0);
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), -1);
-    QCOMPARE(backend.Save(map), -1);
+    QCOMPARE(SaveAndWait(backend, map), -1);
     QCOMPARE(raw.Run(QStringLiteral("alter table Elsewhere rename to AlarmLinkDoorInfo")), 0);
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(map), 0);
+    QCOMPARE(SaveAndWait(backend, map), 0);
 }
 
 void SchemeStoreBackendTest::aFileThatIsNoDatabaseIsLeftAsItIs()
@@ -399,7 +400,7 @@ void SchemeStoreBackendTest::aFileThatIsNoDatabaseIsLeftAsItIs()
         QCOMPARE(backend.Load(map), -1);
         QVERIFY(map.isEmpty());
         QVERIFY(backend.LastOutcome().eReason == Reason::Damaged);
-        QCOMPARE(backend.Save(Map(2, true)), -1);
+        QCOMPARE(SaveAndWait(backend, Map(2, true)), -1);
         QVERIFY(backend.LastOutcome().eReason == Reason::LoadFailed);
     }
     QCOMPARE(m_folder->Bytes(), letter);
@@ -421,7 +422,7 @@ void SchemeStoreBackendTest::aTruncatedFileIsLeftAsItIs()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(100, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(100, true)), 0);
     }
     QByteArray bytes = m_folder->Bytes();
     QVERIFY(bytes.size() > missing);
@@ -432,7 +433,7 @@ void SchemeStoreBackendTest::aTruncatedFileIsLeftAsItIs()
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), -1);
         QVERIFY(backend.LastOutcome().eReason == Reason::Damaged);
-        QCOMPARE(backend.Save(map), -1);
+        QCOMPARE(SaveAndWait(backend, map), -1);
     }
     QCOMPARE(m_folder->Bytes(), bytes);
 }
@@ -443,7 +444,7 @@ void SchemeStoreBackendTest::aDamagedFileIsLeftAsItIsAndGivesWhatIsSound()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(100, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(100, true)), 0);
     }
     int page = 0;
     {
@@ -465,7 +466,7 @@ void SchemeStoreBackendTest::aDamagedFileIsLeftAsItIsAndGivesWhatIsSound()
         for (AlarmInfo& info : expected)
             info.listDoor.clear();
         QVERIFY(map == expected);
-        QCOMPARE(backend.Save(map), -1);
+        QCOMPARE(SaveAndWait(backend, map), -1);
     }
     QCOMPARE(m_folder->Bytes(), bytes);
 }
@@ -480,7 +481,7 @@ void SchemeStoreBackendTest::aDirectoryThatCannotBeMadeMakesBothFail()
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::NotOpen);
-    QCOMPARE(backend.Save(map), -1);
+    QCOMPARE(SaveAndWait(backend, map), -1);
     QVERIFY(!backend.LastOutcome().Text().isEmpty());
 }
 
@@ -496,7 +497,7 @@ void SchemeStoreBackendTest::aDirectoryThatAppearsLaterIsUsedByTheNextLoad()
     QCOMPARE(backend.Load(map), -1);
     QVERIFY(QFile::remove(QGetDatabaseDirPath()));
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(2, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(2, true)), 0);
     QVERIFY(Stored() == Map(2, true));
 }
 
@@ -505,15 +506,15 @@ void SchemeStoreBackendTest::aDatabaseThatWasRemovedIsNoticed()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(2, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(2, true)), 0);
     if (!QFile::remove(m_folder->File()))
         return; // a system that keeps open files in place
-    QCOMPARE(backend.Save(Map(3, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::Moved);
     // A load starts over with whatever lies there now.
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map.isEmpty());
-    QCOMPARE(backend.Save(Map(3, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     QVERIFY(Stored() == Map(3, true));
 }
 
@@ -522,16 +523,16 @@ void SchemeStoreBackendTest::aDatabaseThatWasPutBackIsSavedTo()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(2, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(2, true)), 0);
     const QString strAway = m_folder->File() + QStringLiteral(".away");
     if (!QFile::rename(m_folder->File(), strAway))
         return; // a system that keeps open files in place
-    QCOMPARE(backend.Save(Map(3, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::Moved);
     // What the note says to do keeps the edits.
     QVERIFY(backend.LastOutcome().strNext.endsWith(QLatin1String("Put the file back, then save again.")));
     QVERIFY(QFile::rename(strAway, m_folder->File()));
-    QCOMPARE(backend.Save(Map(3, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     QVERIFY(Stored() == Map(3, true));
 }
 
@@ -541,7 +542,7 @@ void SchemeStoreBackendTest::anOldFileWithoutTheMailColumnLoadsAndSaves()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(3, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     }
     QCOMPARE(
         RawDatabase(m_folder->File()).Run(QStringLiteral("alter table AlarmBaseInfo drop column bSendEmail")),
@@ -551,7 +552,7 @@ void SchemeStoreBackendTest::anOldFileWithoutTheMailColumnLoadsAndSaves()
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(3, true));
     map.first().bSendEmail = true;
-    QCOMPARE(backend.Save(map), 0);
+    QCOMPARE(SaveAndWait(backend, map), 0);
     QVERIFY(Stored() == map);
 }
 
@@ -561,7 +562,7 @@ void SchemeStoreBackendTest::valuesOfOtherTypesAreNoDamage()
         AlarmSchemeStoreBackend backend;
         AlarmInfoMap map;
         QCOMPARE(backend.Load(map), 0);
-        QCOMPARE(backend.Save(Map(3, true)), 0);
+        QCOMPARE(SaveAndWait(backend, Map(3, true)), 0);
     }
     RawDatabase raw(m_folder->File());
     QCOMPARE(
@@ -573,7 +574,7 @@ void SchemeStoreBackendTest::valuesOfOtherTypesAreNoDamage()
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
     QCOMPARE(map.size(), 3);
-    QCOMPARE(backend.Save(map), 0);
+    QCOMPARE(SaveAndWait(backend, map), 0);
 }
 
 void SchemeStoreBackendTest::theHandlerMayBeRemovedAndMayLoadAgain()

@@ -2,6 +2,7 @@
 
 #include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client_store/SaveAndWait.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -110,7 +111,7 @@ void SchemeStoreLocksTest::init()
     AlarmSchemeStoreBackend backend;
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
-    QCOMPARE(backend.Save(Map(5, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(5, true)), 0);
 }
 
 void SchemeStoreLocksTest::cleanup()
@@ -137,7 +138,7 @@ void SchemeStoreLocksTest::aSaveWaitsForAnotherProgramThatLetsGo()
     timer.start();
     const OtherProgram other(m_folder->File(), lock, Briefly);
     QVERIFY(other.Holds());
-    QCOMPARE(backend.Save(Map(9, false)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(9, false)), 0);
     QVERIFY(timer.elapsed() >= Briefly.count() && timer.elapsed() < AlarmSchemeStoreBackend::BusyTimeOut);
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(9, false));
@@ -160,14 +161,14 @@ void SchemeStoreLocksTest::aSaveGivesUpAfterAboutFiveSecondsAndKeepsTheOldScheme
     QVERIFY(other.Holds());
     QElapsedTimer timer;
     timer.start();
-    QCOMPARE(backend.Save(Map(9, false)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(9, false)), -1);
     QVERIFY(timer.elapsed() >= AlarmSchemeStoreBackend::BusyTimeOut - 100);
     QVERIFY2(timer.elapsed() < AboutFiveSeconds, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(backend.LastOutcome().eReason == Reason::Locked);
     other.Release();
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(5, true));
-    QCOMPARE(backend.Save(Map(9, false)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(9, false)), 0);
 }
 
 void SchemeStoreLocksTest::openingWaitsForAnotherProgramThatLetsGo_data()
@@ -184,7 +185,7 @@ void SchemeStoreLocksTest::openingWaitsForAnotherProgramThatLetsGo()
     AlarmInfoMap map;
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(5, true));
-    QCOMPARE(backend.Save(Map(6, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(6, true)), 0);
 }
 
 void SchemeStoreLocksTest::openingGivesUpAfterAboutFiveSecondsAndTheNextLoadSucceeds()
@@ -201,13 +202,13 @@ void SchemeStoreLocksTest::openingGivesUpAfterAboutFiveSecondsAndTheNextLoadSucc
     QVERIFY(backend.LastOutcome().eReason == Reason::Locked);
     QVERIFY(map.isEmpty());
     timer.restart();
-    QCOMPARE(backend.Save(Map(1, true)), -1);
+    QCOMPARE(SaveAndWait(backend, Map(1, true)), -1);
     QVERIFY(backend.LastOutcome().eReason == Reason::LoadFailed);
     QVERIFY(timer.elapsed() < AlarmSchemeStoreBackend::BusyTimeOut / 2); // refused without trying
     other.Release();
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(5, true));
-    QCOMPARE(backend.Save(Map(6, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(6, true)), 0);
 }
 
 void SchemeStoreLocksTest::makingTheBackendDoesNotWait()
@@ -250,7 +251,7 @@ void SchemeStoreLocksTest::aReaderWhoStaysLetsALoadSucceedInTheEnd()
     QVERIFY(map == Map(5, true));
     QCOMPARE(third.Run(QStringLiteral("begin immediate; rollback")), 0);
     other.Release();
-    QCOMPARE(backend.Save(Map(6, true)), 0);
+    QCOMPARE(SaveAndWait(backend, Map(6, true)), 0);
     QCOMPARE(backend.Load(map), 0);
     QVERIFY(map == Map(6, true));
 }

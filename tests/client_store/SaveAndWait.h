@@ -1,0 +1,12 @@
+#pragma once
+
+#include "client/store/AlarmSchemeStoreBackend.h"
+
+/// Saves and waits for the outcome: 0 when everything was written.
+inline int SaveAndWait(AlarmSchemeStoreBackend& backend, const AlarmInfoMap& map)
+{
+    if (backend.Save(map) != 0)
+        return -1;
+    backend.WaitForSaves();
+    return backend.LastOutcome().IsSuccess() ? 0 : -1;
+}
