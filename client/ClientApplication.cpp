@@ -5,6 +5,7 @@
 #include "client/ClientSettings.h"
 #include "client/ClientTranslations.h"
 #include "client/MainWindow.h"
+#include "client/SchemeSaving.h"
 #include "client/SiteSession.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
 #include "platform/LXGUI/LXMessageNotify.h"
@@ -91,6 +92,7 @@ void ClientApplication::Stop()
                    qUtf8Printable(m_settings->FileName()));
     }
     AlarmSchemeManager::Instance()->SetBackend(nullptr);
+    m_saving.reset();
     LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
     LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(nullptr);
     QSystem::GetInstance()->disconnect(this);
@@ -198,8 +200,7 @@ void ClientApplication::OpenSite()
 void ClientApplication::PrepareSchemes()
 {
     auto backend = std::make_unique<AlarmSchemeStoreBackend>();
-    backend->SetOutcomeHandler(
-        [this](const SchemeStoreOutcome& outcome) { m_window->ShowSaveOutcome(outcome); });
+    m_saving = std::make_unique<SchemeSaving>(*backend, *m_window);
     AlarmSchemeManager::Instance()->SetBackend(std::move(backend));
 }
 

@@ -14,6 +14,7 @@
 class ClientSettings;
 class ClientTranslations;
 class MainWindow;
+class SchemeSaving;
 class SiteSession;
 
 /// The client from its start to its end: owns everything, brings it up in order and takes it down in the
@@ -68,5 +69,6 @@ private:
     HubManager m_hub;
     DeviceFunctionManager m_deviceFunctions;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<SchemeSaving> m_saving;
     std::unique_ptr<PluginLoader> m_plugins;
 };

@@ -8,6 +8,7 @@
 #include "client/MailSettingsDialog.h"
 #include "client/PageStatus.h"
 #include "client/PluginLoader.h"
+#include "client/SaveIndicator.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "platform/LXGUI/LXMessageBox.h"
 #include "platform/LXGUI/LXMessageNotify.h"
@@ -22,6 +23,8 @@
 #include <QLabel>
 #include <QTabBar>
 #include <QUrl>
+
+#include <utility>
 
 namespace {
 
@@ -72,6 +75,13 @@ void MainWindow::BuildStatusBar()
     m_pEdited = new ElidedLabel(this);
     m_pEdited->setObjectName(QStringLiteral("lblEditedScheme"));
     ui->statusBar->addWidget(m_pEdited, 1);
+    m_pSaving = new SaveIndicator(this);
+    ui->statusBar->addPermanentWidget(m_pSaving);
+    m_pSaving->hide(); // a status bar shows what it is given
+    m_pUnsaved = new QLabel(tr("Not saved"), this);
+    m_pUnsaved->setObjectName(QStringLiteral("lblUnsaved"));
+    ui->statusBar->addPermanentWidget(m_pUnsaved);
+    m_pUnsaved->hide();
     auto* pRole = new QLabel(UserRoles::Name(m_role), this);
     pRole->setObjectName(QStringLiteral("lblRole"));
     ui->statusBar->addPermanentWidget(pRole);
@@ -171,6 +181,15 @@ void MainWindow::DestroyPages()
             ui->tabPages->removeTab(i);
         }
     }
+    const QList<QPointer<QWidget>> pages = AllPages();
+    for (const QPointer<QWidget>& page : pages) {
+        delete page.data();
+    }
+    m_pPlugins = nullptr;
+}
+
+QList<QPointer<QWidget>> MainWindow::AllPages() const
+{
     const QList<QWidget*> candidates = ui->tabPages->findChildren<QWidget*>();
     QList<QPointer<QWidget>> pages;
     for (QWidget* pCandidate : candidates) {
@@ -178,10 +197,44 @@ void MainWindow::DestroyPages()
             pages.append(pCandidate);
         }
     }
-    for (const QPointer<QWidget>& page : qAsConst(pages)) {
+    return pages;
+}
+
+void MainWindow::ReloadPages()
+{
+    const int iCurrent = ui->tabPages->currentIndex();
+    const QList<QPointer<QWidget>> pages = AllPages();
+    for (const QPointer<QWidget>& page : pages) {
+        if (page.isNull() || !PageStatus::CanSave(page)) {
+            continue;
+        }
+        const QString strKey = KeyOfPage(page);
+        const int iTab = ui->tabPages->indexOf(page);
+        if (iTab >= 0) {
+            ui->tabPages->removeTab(iTab);
+        }
         delete page.data();
+        if (iTab >= 0 && OpenPage(strKey)) {
+            ui->tabPages->tabBar()->moveTab(ui->tabPages->currentIndex(), iTab);
+        }
     }
-    m_pPlugins = nullptr;
+    ui->tabPages->setCurrentIndex(iCurrent);
+    ShowUnsaved(false);
+}
+
+void MainWindow::FollowSaves(AlarmSchemeStoreBackend* pStore)
+{
+    m_pSaving->Follow(pStore);
+}
+
+void MainWindow::ShowUnsaved(bool bUnsaved)
+{
+    m_pUnsaved->setVisible(bUnsaved);
+}
+
+void MainWindow::SetCloseGuard(std::function<bool()> guard)
+{
+    m_closeGuard = std::move(guard);
 }
 
 QList<QPointer<QWidget>> MainWindow::OpenPages() const
@@ -261,6 +314,10 @@ bool MainWindow::event(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (m_closeGuard && !m_closeGuard()) {
+        event->ignore();
+        return;
+    }
     Q_EMIT SignalClosing();
     QMainWindow::closeEvent(event);
 }

@@ -5,8 +5,10 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
+class AlarmSchemeStoreBackend;
 class ClientSettings;
 class ElidedLabel;
 class HomePage;
@@ -14,6 +16,7 @@ class PageStatus;
 class PluginLoader;
 class QActionGroup;
 class QLabel;
+class SaveIndicator;
 struct SchemeStoreOutcome;
 
 namespace Ui {
@@ -45,6 +48,12 @@ public:
     void AddProblem(const QString& strText);
     void SetSite(const QString& strFile, int iDevices);
     void ShowSaveOutcome(const SchemeStoreOutcome& outcome);
+    void FollowSaves(AlarmSchemeStoreBackend* pStore); ///< shows in the status bar how far they are
+    void ShowUnsaved(bool bUnsaved);                   ///< in the status bar: the last save failed
+    /// Destroys every page that can save, with its edits, and opens those again that were open.
+    void ReloadPages();
+    /// Is asked before the window closes; false keeps it open. Null removes it.
+    void SetCloseGuard(std::function<bool()> guard);
     void OpenMailSettings(); ///< returns when the dialog is closed
 
     HomePage* Home() const { return m_pHome; }
@@ -69,7 +78,8 @@ private:
     void OnAbout();
     void OnDataDirectory();
     void RefreshStatus();
-    QWidget* CurrentPage() const; ///< null on the home page
+    QWidget* CurrentPage() const;              ///< null on the home page
+    QList<QPointer<QWidget>> AllPages() const; ///< those of closed tabs too
 
     std::unique_ptr<Ui::MainWindow> ui;
     ClientSettings& m_settings;
@@ -80,4 +90,7 @@ private:
     PageStatus* m_pStatus;
     ElidedLabel* m_pEdited;
     QLabel* m_pSite;
+    QLabel* m_pUnsaved;
+    SaveIndicator* m_pSaving;
+    std::function<bool()> m_closeGuard;
 };

@@ -46,7 +46,12 @@ QString PageStatus::Text() const
 
 bool PageStatus::CanSave() const
 {
-    return m_page && m_page->metaObject()->indexOfSlot(SaveSlot) >= 0;
+    return CanSave(m_page);
+}
+
+bool PageStatus::CanSave(const QWidget* pPage)
+{
+    return pPage != nullptr && pPage->metaObject()->indexOfSlot(SaveSlot) >= 0;
 }
 
 bool PageStatus::Save()

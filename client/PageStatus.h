@@ -20,7 +20,8 @@ public:
     void SetPage(QWidget* pPage); ///< null: no page
     QString Text() const;         ///< what the page edits; empty when it edits nothing or does not say
     bool CanSave() const;
-    bool Save(); ///< false when the page cannot save
+    static bool CanSave(const QWidget* pPage); ///< whether a page, which may be null, has the slot
+    bool Save();                               ///< false when the page cannot save
 
 Q_SIGNALS:
     void SignalChanged();

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "client/store/SchemeConflict.h"
+#include "client/store/SchemeStoreOutcome.h"
+
+#include <QObject>
+#include <QPointer>
+
+class AlarmSchemeStoreBackend;
+class MainWindow;
+
+/// Between the scheme store and the window: brings outcomes, questions and progress to the operator, and
+/// keeps the window open until everything is saved. User-interface thread only.
+class SchemeSaving : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive this object's use of them: the store until it is destroyed, the window longer.
+    SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, QObject* parent = nullptr);
+    ~SchemeSaving() override;
+
+    /// Whether the last save failed, so that the file does not hold what the pages show.
+    bool IsUnsaved() const { return m_bUnsaved; }
+    /// Whether the window may close now. When not, the operator was told, and the window closes by itself
+    /// once everything is saved.
+    bool MayClose();
+
+private:
+    void OnOutcome(const SchemeStoreOutcome& outcome);
+    void OnSavingChanged(bool bSaving);
+    SchemeConflictAnswer Ask(const SchemeConflict& conflict);
+    void Reload();
+    void SetUnsaved(bool bUnsaved);
+
+    QPointer<AlarmSchemeStoreBackend> m_store;
+    QPointer<MainWindow> m_window;
+    bool m_bUnsaved = false;
+    bool m_bCloseWhenSaved = false;
+};
