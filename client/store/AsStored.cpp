@@ -82,6 +82,13 @@ AlarmWeek StoredWeek(const AlarmWeek& week)
     return stored == fresh ? fresh : stored;
 }
 
+bool MayNameColumn(const QString& strText)
+{
+    return !strText.isEmpty() && std::all_of(strText.cbegin(), strText.cend(), [](QChar character) {
+        return character.isLetterOrNumber() || character == QLatin1Char('_');
+    }) && !strText.at(0).isDigit();
+}
+
 } // namespace
 
 AlarmInfo AsStored(const AlarmInfo& info)
@@ -101,4 +108,15 @@ AlarmInfo AsStored(const AlarmInfo& info)
 AlarmSourceKey AsStored(const AlarmSourceKey& key)
 {
     return AlarmSourceKey{StoredText(key.strEventSource), key.AlarmType};
+}
+
+bool MayNameColumns(const AlarmSourceKey& key, const AlarmInfo& info)
+{
+    const auto& outputs = info.listAlarmOut;
+    const auto& channels = info.videoSplit.videoLinks;
+    return MayNameColumn(key.strEventSource) ||
+           std::any_of(outputs.cbegin(), outputs.cend(),
+                       [](const AlarmLinkAlarmOut& link) { return MayNameColumn(link.strLinkAlarmID); }) ||
+           std::any_of(channels.cbegin(), channels.cend(),
+                       [](const AlarmLinkVideo& link) { return MayNameColumn(link.strLinkDevID); });
 }

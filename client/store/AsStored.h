@@ -10,3 +10,8 @@ AlarmInfo AsStored(const AlarmInfo& info);
 
 /// The key in the same way.
 AlarmSourceKey AsStored(const AlarmSourceKey& key);
+
+/// Whether SQLite may read a text of this record, or of its key, as the name of a column: then the store does
+/// something else with it than storing it, and only loading tells what. Nothing the editors build is such a
+/// text. True also for other words.
+bool MayNameColumns(const AlarmSourceKey& key, const AlarmInfo& info);

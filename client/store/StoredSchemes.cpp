@@ -1,14 +1,24 @@
 #include "client/store/StoredSchemes.h"
 
+#include "client/store/AsStored.h"
 #include "client/store/SaveTransaction.h"
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 using Reason = SchemeStoreOutcome::Reason;
+
+/// Whether only the file can tell what it holds after these changes.
+bool IsUncertain(const SavePlan& plan)
+{
+    return std::any_of(plan.changes.cbegin(), plan.changes.cend(), [](const SavePlan::Change& change) {
+        return MayNameColumns(change.key, change.wanted);
+    });
+}
 
 } // namespace
 
@@ -75,7 +85,9 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
     AlarmInfoMap read;
     SavePlan plan;
     std::optional<qint64> version;
+    AlarmInfoMap written;
     bool isRead = false;
+    bool reread = false;
     bool saved = false;
     {
         SaveTransaction transaction(store);
@@ -100,8 +112,12 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
             }
             progress.iSchemes = plan.Schemes();
             saved = plan.IsEmpty() && !plan.bDisable;
-            if (!saved && Write(plan, transaction, progress))
+            if (!saved && Write(plan, transaction, progress)) {
+                reread = IsUncertain(plan);
+                if (reread)
+                    store.ReadAll(&written);
                 saved = transaction.Commit();
+            }
         }
     }
     m_asked.reset();
@@ -118,6 +134,8 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
         m_base.held = std::move(read);
     m_version = version;
     Take(plan);
+    if (reread)
+        m_base.held = std::move(written);
     SaveResult result;
     result.iSchemes = plan.Schemes();
     // Those that were kept earlier are not news.

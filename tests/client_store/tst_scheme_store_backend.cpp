@@ -1,4 +1,5 @@
 #include "client/store/AlarmSchemeStoreBackend.h"
+#include "client/store/AsStored.h"
 
 #include "tests/AlarmSchemeData/RandomSchemes.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
