@@ -47,6 +47,9 @@ private Q_SLOTS:
     void languageAndThemeAreKeptForTheNextStart();
     void theSiteIsNamedWithItsDevices();
     void outcomesOfSavingAreNotes();
+    void reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs();
+    void theGuardKeepsTheWindowOpen();
+    void whatIsUnsavedIsShown();
 
 private:
     QTabWidget* Tabs() const { return m_window->findChild<QTabWidget*>(QStringLiteral("tabPages")); }
@@ -321,6 +324,50 @@ void TestMainWindow::outcomesOfSavingAreNotes()
     m_window->ShowSaveOutcome(
         Outcome::Failure(Outcome::Operation::Load, Outcome::Reason::Damaged, QStringLiteral("malformed")));
     QCOMPARE(notes.count(), 3);
+}
+
+void TestMainWindow::reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs()
+{
+    QVERIFY(m_window->OpenPage(QStringLiteral("good")));
+    QVERIFY(m_window->OpenPage(QStringLiteral("second")));
+    Tabs()->setCurrentIndex(1);
+    const QPointer<QWidget> before = m_window->OpenPages().at(0);
+    QMetaObject::invokeMethod(before, "Edit", Q_ARG(QString, QStringLiteral("half done")));
+    m_window->ReloadPages();
+    QVERIFY(before.isNull());
+    QCOMPARE(m_window->OpenPages().size(), 2);
+    QCOMPARE(m_window->KeyOfPage(m_window->OpenPages().at(0)), QStringLiteral("good"));
+    QCOMPARE(Tabs()->currentIndex(), 1);
+    QVERIFY(m_window->StatusText() != QStringLiteral("half done"));
+    // A page whose tab is closed goes too, and comes back when it is opened.
+    m_window->ClosePage(1);
+    TestModules::TakeCalls();
+    m_window->ReloadPages();
+    QVERIFY(TestModules::TakeCalls().contains(QStringLiteral("good:page destroyed")));
+    QCOMPARE(m_window->OpenPages().size(), 1);
+    QVERIFY(m_window->OpenPage(QStringLiteral("good")));
+}
+
+void TestMainWindow::theGuardKeepsTheWindowOpen()
+{
+    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
+    bool bMayClose = false;
+    m_window->SetCloseGuard([&bMayClose] { return bMayClose; });
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible() && closing.isEmpty());
+    bMayClose = true;
+    QVERIFY(m_window->close());
+    QCOMPARE(closing.count(), 1);
+}
+
+void TestMainWindow::whatIsUnsavedIsShown()
+{
+    const auto* pUnsaved = m_window->findChild<QLabel*>(QStringLiteral("lblUnsaved"));
+    QVERIFY(!pUnsaved->isVisible());
+    m_window->ShowUnsaved(true);
+    QVERIFY(pUnsaved->isVisible() && !pUnsaved->text().isEmpty());
+    m_window->ShowUnsaved(false);
+    QVERIFY(!pUnsaved->isVisible());
 }
 
 QTEST_MAIN(TestMainWindow)
