@@ -47,6 +47,7 @@ public:
     SiteSession* Site() const { return m_site.get(); }
     PluginLoader* Plugins() const { return m_plugins.get(); }
     ClientSettings* Settings() const { return m_settings.get(); }
+    SchemeSaving* Saving() const { return m_saving.get(); }
 
 private:
     bool PrepareDataDirectory();

@@ -36,6 +36,13 @@ SchemeSaving::SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, Q
 
 SchemeSaving::~SchemeSaving() = default;
 
+void SchemeSaving::WaitForSaves()
+{
+    if (!m_store.isNull()) {
+        m_store->WaitForSaves();
+    }
+}
+
 bool SchemeSaving::MayClose()
 {
     if (!m_store.isNull() && m_store->IsSaving()) {

@@ -22,6 +22,7 @@ public:
 
     /// Whether the last save failed, so that the file does not hold what the pages show.
     bool IsUnsaved() const { return m_bUnsaved; }
+    void WaitForSaves(); ///< returns when nothing is being saved
     /// Whether the window may close now. When not, the operator was told, and the window closes by itself
     /// once everything is saved.
     bool MayClose();

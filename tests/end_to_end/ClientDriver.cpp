@@ -5,6 +5,7 @@
 #include "client/HomePage.h"
 #include "client/MainWindow.h"
 #include "client/PluginTile.h"
+#include "client/SchemeSaving.h"
 #include "platform/LXGUI/LXMessageNotify.h"
 #include "platform/LXGUI/LXSwitchButton.h"
 
@@ -87,6 +88,7 @@ bool ClientDriver::ClickButton(const char* szName)
         return false;
     }
     QTest::mouseClick(pButton, Qt::LeftButton);
+    WaitForSaves();
     return true;
 }
 
@@ -118,8 +120,17 @@ QString ClientDriver::LastNote()
     return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText();
 }
 
+void ClientDriver::WaitForSaves() const
+{
+    // A save goes on beside the window.
+    if (m_client && m_client->Saving() != nullptr) {
+        m_client->Saving()->WaitForSaves();
+    }
+}
+
 QString ClientDriver::DatabasePath() const
 {
+    WaitForSaves();
     return QDir(m_options.strDataDirectory).filePath(QStringLiteral("Database/AlarmScheme.db"));
 }
 

@@ -36,6 +36,7 @@ public:
     QString StatusText() const;
     static QString LastNote();
     ClientApplication& Client() { return *m_client; }
+    void WaitForSaves() const; ///< returns when nothing is being saved
     QString DatabasePath() const;
 
     /// Calls `act` with the next modal dialogs, one call for each; more than these stay unanswered.
