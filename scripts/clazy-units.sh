@@ -4,7 +4,7 @@ set -euo pipefail
 database=$1
 shift
 status=0
-output=$(clazy-standalone -p "$database" --checks=level1 --header-filter="$(pwd)/(AlarmCtrl|client|platform|plugin|scheme_editor|tools|tests|benchmarks)/" \
+output=$(clazy-standalone -p "$database" --checks=level1 --header-filter="$(pwd)/(AlarmCtrl|client|platform|plugin|scheme_editor|scheme_services|tools|tests|benchmarks)/" \
     --extra-arg=-Wno-unknown-warning-option "$@" 2>&1) || status=$?
 if [ "$status" -ne 0 ] || grep -qE 'warning:|error:' <<<"$output"; then
     printf '%s\n' "$output" >&2

@@ -17,7 +17,7 @@ done)
 
 echo "clang-tidy: ${#units[@]} units"
 printf '%s\n' "${units[@]}" | xargs -P "$jobs" -n 4 clang-tidy -p "$build" --quiet \
-    --header-filter="$(pwd)/(AlarmCtrl|client|platform|plugin|scheme_editor|tools|tests|benchmarks)/" --warnings-as-errors='*'
+    --header-filter="$(pwd)/(AlarmCtrl|client|platform|plugin|scheme_editor|scheme_services|tools|tests|benchmarks)/" --warnings-as-errors='*'
 
 echo "clazy (level 1): ${#units[@]} units"
 printf '%s\n' "${units[@]}" | xargs -P "$jobs" -n 8 scripts/clazy-units.sh "$build"
