@@ -111,8 +111,7 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
                 return result;
             }
             progress.iSchemes = plan.Schemes();
-            saved = plan.IsEmpty() && !plan.bDisable;
-            if (!saved && Write(plan, transaction, progress)) {
+            if (Write(plan, transaction, progress)) {
                 reread = IsUncertain(plan);
                 if (reread)
                     store.ReadAll(&written);
@@ -152,7 +151,9 @@ bool StoredSchemes::Write(const SavePlan& plan, const SaveTransaction& transacti
         ++progress.iWritten;
         return transaction.IsAlive();
     };
-    if (plan.changes.size() <= FewSchemes) {
+    if (plan.changes.isEmpty()) {
+        store.SaveSchemes(AlarmInfoMap()); // the time of the save
+    } else if (plan.changes.size() <= FewSchemes) {
         for (const SavePlan::Change& change : plan.changes) {
             if (!goOn())
                 return false;
