@@ -4,7 +4,7 @@ SHELL := /bin/bash
 BUILD := build
 JOBS := $(shell nproc)
 
-.PHONY: run test build deps bench pictures check sanitize
+.PHONY: run test build deps bench pictures check sanitize clang-test qt6-test package-test
 
 deps:
 	@./scripts/install-dependencies.sh build
@@ -23,6 +23,24 @@ sanitize: deps
 	@cmake --preset asan+ubsan
 	@cmake --build $(BUILD)/asan
 	@ctest --test-dir $(BUILD)/asan --output-on-failure --parallel $(JOBS)
+
+# The same suite with the other compiler and with the next Qt.
+clang-test: deps
+	@./scripts/install-dependencies.sh clang
+	@cmake --preset clang
+	@cmake --build $(BUILD)/clang
+	@ctest --test-dir $(BUILD)/clang --output-on-failure --parallel $(JOBS)
+
+qt6-test: deps
+	@./scripts/install-dependencies.sh qt6
+	@cmake --preset qt6
+	@cmake --build $(BUILD)/qt6
+	@ctest --test-dir $(BUILD)/qt6 --output-on-failure --parallel $(JOBS)
+
+# Builds the Debian packages, installs them into a clean root, uses them there and removes them again.
+package-test: build
+	@./scripts/install-dependencies.sh package
+	@./scripts/package-test.sh $(BUILD)
 
 check: build
 	@./scripts/install-dependencies.sh check

@@ -8,5 +8,5 @@ acs_library(AlarmLinkage STATIC SOURCES
     QAlarmCopyToPopup.cpp QAlarmCopyToPopup.h QAlarmCopyToPopup.ui
     QAlarmNotifyEditor.cpp QAlarmNotifyEditor.h QAlarmNotifyEditor.ui
     QAlarmOutEditor.cpp QAlarmOutEditor.h QAlarmOutEditor.ui
-    PUBLIC AlarmRecords Qt5::Widgets
+    PUBLIC AlarmRecords Qt::Widgets
     PRIVATE HostServices LXGUI VantaComponent VantaModel VantaLogic)

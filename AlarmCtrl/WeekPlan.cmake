@@ -9,5 +9,5 @@ acs_library(AlarmWeekPlan STATIC SOURCES
     QAlarmDayEditor.cpp QAlarmDayEditor.h QAlarmDayEditor.ui
     QAlarmDayItem.cpp QAlarmDayItem.h
     QAlarmDefenceTimeEditor.cpp QAlarmDefenceTimeEditor.h QAlarmDefenceTimeEditor.ui
-    PUBLIC DefenceTime AlarmRecords Qt5::Widgets
+    PUBLIC DefenceTime AlarmRecords Qt::Widgets
     PRIVATE LXGUI SystemLibrary)

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing for a purpose: build, check, bench or instructions.
+# Installs the Debian packages that are missing for a purpose: build, check, bench,
+# instructions, clang, qt6 or package.
 set -euo pipefail
 
 packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev rapidjson-dev
@@ -8,9 +9,12 @@ case "${1:-build}" in
 build) ;;
 check) packages+=(clang clang-format clang-tidy clazy) ;;
 bench) packages+=(libbenchmark-dev python3) ;;
+clang) packages+=(clang) ;;
+qt6) packages+=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n libgl-dev) ;;
+package) packages+=(appstream desktop-file-utils fakeroot file lintian mmdebstrap) ;;
 instructions) packages+=(valgrind) ;;
 *)
-    echo "usage: $0 build|check|bench|instructions" >&2
+    echo "usage: $0 build|check|bench|instructions|clang|qt6|package" >&2
     exit 2
     ;;
 esac
