@@ -26,10 +26,10 @@ struct SaveResult;
 /// gives way to one that is newer still.
 ///
 /// A save is all or nothing, and it writes what has changed: the schemes that differ from what the file holds
-/// once they are stored, and the time of the save. It is refused unless the last load read every stored scheme: a map that misses schemes would switch the missing
-/// ones off. What another process has stored since the load is never overwritten without a question. Another
-/// process that holds the database is waited for, up to five seconds in all for one load or save.
-/// User-interface thread only.
+/// once they are stored, and the time of the save. It is refused unless the last load read every stored
+/// scheme: a map that misses schemes would switch the missing ones off. What another process has stored since
+/// the load is never overwritten without a question. Another process that holds the database is waited for,
+/// up to five seconds in all for one load or save. User-interface thread only.
 class AlarmSchemeStoreBackend : public QObject, public IAlarmSchemeBackend
 {
     Q_OBJECT
