@@ -136,6 +136,11 @@ void DPrintLog::SetFile(const QString& strPath)
     d->ChangeTarget([&strPath](LogTarget& target) { target.strFile = strPath; });
 }
 
+void DPrintLog::SetRotation(qint64 iLargest, int iKept)
+{
+    d->ChangeTarget([iLargest, iKept](LogTarget& target) { target.rotation = {iLargest, iKept}; });
+}
+
 void DPrintLog::SetStandardError(bool bEnable)
 {
     d->ChangeTarget([bEnable](LogTarget& target) { target.bStandardError = bEnable; });

@@ -38,8 +38,12 @@ public:
         const char* szFormat, ...);
 
     void SetFile(const QString& strPath); ///< empty: standard error only
-    void SetMinimumLevel(int iLevel);     ///< messages below it are dropped; at first LogInfo
-    void SetStandardError(bool bEnable);  ///< on at first
+    /// Before a file grows beyond so many bytes (0: no limit) it becomes "<file>.1", an older one of that
+    /// name
+    /// "<file>.2" and so on, and the oldest beyond the number kept goes. At first 5 MiB and 5 old files.
+    void SetRotation(qint64 iLargest, int iKept);
+    void SetMinimumLevel(int iLevel);    ///< messages below it are dropped; at first LogInfo
+    void SetStandardError(bool bEnable); ///< on at first
 
     /// Is handed every message that passes the level, without its time: for tests and for a host that shows
     /// its log. Called on the logging thread. Null removes it.

@@ -89,9 +89,9 @@ void LogWriter::Run(const std::shared_ptr<State>& state)
                 std::fwrite(item.strLine.data(), 1, item.strLine.size(), stderr);
             if (item.target->strFile.isEmpty())
                 continue;
-            if (lost > 0 && file.Write(item.target->strFile, LostLine(lost)))
+            if (lost > 0 && file.Write(item.target->strFile, LostLine(lost), item.target->rotation))
                 lost = 0;
-            if (lost > 0 || !file.Write(item.target->strFile, item.strLine))
+            if (lost > 0 || !file.Write(item.target->strFile, item.strLine, item.target->rotation))
                 ++lost;
         }
         lock.lock();
@@ -100,29 +100,6 @@ void LogWriter::Run(const std::shared_ptr<State>& state)
     }
     state->bRunning = false;
     state->progress.notify_all();
-}
-
-bool LogFile::Open(const QString& strPath)
-{
-    if (m_file.isOpen() && m_file.fileName() == strPath)
-        return true;
-    m_file.close();
-    m_file.setFileName(strPath);
-    m_bTorn = false;
-    return m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
-}
-
-bool LogFile::Write(const QString& strPath, const std::string& strLine)
-{
-    if (!Open(strPath))
-        return false;
-    if (m_bTorn && m_file.write("\n", 1) != 1)
-        return false;
-    m_bTorn = false;
-    const auto size = static_cast<qint64>(strLine.size());
-    const qint64 written = m_file.write(strLine.data(), size);
-    m_bTorn = written > 0 && written < size;
-    return written == size;
 }
 
 } // namespace lxl

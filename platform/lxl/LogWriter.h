@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QFile>
+#include "platform/lxl/LogFile.h"
+
 #include <QString>
 
 #include <chrono>
@@ -18,6 +19,7 @@ struct LogTarget
 {
     QString strFile; ///< empty: no file
     bool bStandardError = true;
+    LogRotation rotation;
 };
 
 struct LogItem
@@ -49,20 +51,6 @@ private:
 
     // Shared with the thread, which may outlive this object when a write hangs.
     std::shared_ptr<State> m_state;
-};
-
-/// The file end of the writer; lives on the writer's thread.
-class LogFile
-{
-public:
-    /// Appends the line to the file of that path; false when it could not.
-    bool Write(const QString& strPath, const std::string& strLine);
-
-private:
-    bool Open(const QString& strPath);
-
-    QFile m_file;
-    bool m_bTorn = false; ///< the last write ended inside a line
 };
 
 } // namespace lxl

@@ -70,8 +70,17 @@ private Q_SLOTS:
     void moreLinesThanCanWaitAreCountedAsLost();
     void linesOfManyThreadsStayWhole();
     void aFatalMessageIsInTheFileWhenItReturns();
+    void aFullFileGivesWayToANewOne();
+    void noMoreThanTheKeptFilesStay();
+    void withNoneKeptTheOldLinesGo();
+    void aLineLongerThanAFileStandsAlone();
+    void withoutALimitOneFileHoldsAll();
+    void aFileThatAnotherProgramHasBegunIsJoined();
+    void aFileThatCannotBeRenamedGrowsOn();
+    void manyThreadsLoseNoLineToTheChangeOfFiles();
 
 private:
+    QString Old(int iAge) const { return Path() + QLatin1Char('.') + QString::number(iAge); }
     QString Path() const { return QDir(m_directory->path()).absoluteFilePath(QStringLiteral("client.log")); }
 
     std::unique_ptr<QTemporaryDir> m_directory;
@@ -83,6 +92,7 @@ void DPrintLogTest::init()
     TheLog().SetStandardError(false);
     TheLog().SetMinimumLevel(lxl::LogInfo);
     TheLog().SetFile(Path());
+    TheLog().SetRotation(qint64(5) * 1024 * 1024, 5);
 }
 
 void DPrintLogTest::cleanup()
@@ -310,6 +320,141 @@ void DPrintLogTest::aFatalMessageIsInTheFileWhenItReturns()
 {
     Say(lxl::LogFatal, QStringLiteral("the end"));
     QCOMPARE(LinesOf(Path()).size(), 1);
+}
+
+namespace {
+
+/// The last words of all lines of a file.
+QStringList WordsOf(const QString& path)
+{
+    QStringList words;
+    const QStringList lines = LinesOf(path);
+    for (const QString& line : lines)
+        words.append(line.section(QLatin1Char(' '), -1));
+    return words;
+}
+
+} // namespace
+
+void DPrintLogTest::aFullFileGivesWayToANewOne()
+{
+    Say(lxl::LogInfo, QStringLiteral("one"));
+    QVERIFY(TheLog().Flush(LongEnough));
+    const qint64 line = QFileInfo(Path()).size();
+    TheLog().SetRotation(3 * line, 2);
+    for (const char* word : {"two", "six", "ten", "who"})
+        Say(lxl::LogInfo, QLatin1String(word));
+    QVERIFY(TheLog().Flush(LongEnough));
+    // Three lines fill a file to its last byte; the fourth begins the next one.
+    QCOMPARE(WordsOf(Old(1)),
+             (QStringList{QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("six")}));
+    QCOMPARE(WordsOf(Path()), (QStringList{QStringLiteral("ten"), QStringLiteral("who")}));
+    QVERIFY(!QFileInfo::exists(Old(2)));
+}
+
+void DPrintLogTest::noMoreThanTheKeptFilesStay()
+{
+    TheLog().SetRotation(1, 2); // every line a file of its own
+    for (int i = 1; i <= 5; ++i)
+        Say(lxl::LogInfo, QString::number(i));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(WordsOf(Path()), QStringList{QStringLiteral("5")});
+    QCOMPARE(WordsOf(Old(1)), QStringList{QStringLiteral("4")});
+    QCOMPARE(WordsOf(Old(2)), QStringList{QStringLiteral("3")});
+    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files).size(), 3);
+}
+
+void DPrintLogTest::withNoneKeptTheOldLinesGo()
+{
+    TheLog().SetRotation(1, 0);
+    for (int i = 1; i <= 3; ++i)
+        Say(lxl::LogInfo, QString::number(i));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(WordsOf(Path()), QStringList{QStringLiteral("3")});
+    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files).size(), 1);
+}
+
+void DPrintLogTest::aLineLongerThanAFileStandsAlone()
+{
+    TheLog().SetRotation(200, 5);
+    Say(lxl::LogInfo, QStringLiteral("before"));
+    Say(lxl::LogInfo, QString(1000, QLatin1Char('x')));
+    Say(lxl::LogInfo, QStringLiteral("after"));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(WordsOf(Old(2)), QStringList{QStringLiteral("before")});
+    QCOMPARE(WordsOf(Old(1)), QStringList{QString(1000, QLatin1Char('x'))});
+    QCOMPARE(WordsOf(Path()), QStringList{QStringLiteral("after")});
+}
+
+void DPrintLogTest::withoutALimitOneFileHoldsAll()
+{
+    TheLog().SetRotation(0, 5);
+    for (int i = 0; i < 1000; ++i)
+        Say(lxl::LogInfo, QString::number(i));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(LinesOf(Path()).size(), 1000);
+    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files).size(), 1);
+}
+
+void DPrintLogTest::aFileThatAnotherProgramHasBegunIsJoined()
+{
+#if defined(Q_OS_WIN)
+    return; // there an open file cannot be renamed by anybody
+#else
+    Say(lxl::LogInfo, QString(500, QLatin1Char('x')));
+    QVERIFY(TheLog().Flush(LongEnough));
+    // The other program puts the full file aside, while this one still has it open.
+    QVERIFY(QFile::rename(Path(), Old(1)));
+    QFile other(Path());
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    QCOMPARE(other.write("theirs\n"), qint64(7));
+    other.close();
+    TheLog().SetRotation(600, 5);
+    Say(lxl::LogInfo, QString(100, QLatin1Char('y')));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(WordsOf(Path()), (QStringList{QStringLiteral("theirs"), QString(100, QLatin1Char('y'))}));
+    QCOMPARE(WordsOf(Old(1)), QStringList{QString(500, QLatin1Char('x'))});
+    QVERIFY(!QFileInfo::exists(Old(2)));
+#endif
+}
+
+void DPrintLogTest::aFileThatCannotBeRenamedGrowsOn()
+{
+    // A folder stands where the old file would go.
+    QVERIFY(QDir().mkpath(Old(1) + QStringLiteral("/inside")));
+    TheLog().SetRotation(1, 1);
+    for (int i = 0; i < 3; ++i)
+        Say(lxl::LogInfo, QString::number(i));
+    QVERIFY(TheLog().Flush(LongEnough));
+    QCOMPARE(WordsOf(Path()), (QStringList{QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")}));
+}
+
+void DPrintLogTest::manyThreadsLoseNoLineToTheChangeOfFiles()
+{
+    constexpr int threads = 4;
+    constexpr int each = 250;
+    TheLog().SetRotation(4096, 1000);
+    std::vector<std::thread> running;
+    running.reserve(threads);
+    for (int thread = 0; thread < threads; ++thread) {
+        running.emplace_back([thread] {
+            for (int i = 0; i < each; ++i)
+                Say(lxl::LogInfo, QStringLiteral("%1").arg(thread * each + i));
+        });
+    }
+    for (std::thread& thread : running)
+        thread.join();
+    QVERIFY(TheLog().Flush(LongEnough));
+    QSet<QString> words;
+    const QFileInfoList files = QDir(m_directory->path()).entryInfoList(QDir::Files);
+    for (const QFileInfo& file : files) {
+        QVERIFY(file.size() <= 4096);
+        const QStringList found = WordsOf(file.filePath());
+        for (const QString& word : found)
+            words.insert(word);
+    }
+    QVERIFY(files.size() > 10);
+    QCOMPARE(words.size(), threads * each);
 }
 
 QTEST_APPLESS_MAIN(DPrintLogTest)
