@@ -32,25 +32,26 @@ QString CommandLine::Help() const
            QLatin1Char('\n');
 }
 
-int CommandLine::Run(const QStringList& arguments, QTextStream& out, QTextStream& err)
+int CommandLine::Run(const QStringList& arguments, CommandEnvironment& environment)
 {
     const QString strFirst = arguments.value(1);
     if (strFirst == QLatin1String("--help") || strFirst == QLatin1String("-h")) {
-        out << Help();
+        environment.out << Help();
         return ExitCode::Done;
     }
     if (strFirst == QLatin1String("--version") || strFirst == QLatin1String("-v")) {
-        out << QStringLiteral("acs-scheme %1\n").arg(QCoreApplication::applicationVersion());
+        environment.out << QStringLiteral("acs-scheme %1\n").arg(QCoreApplication::applicationVersion());
         return ExitCode::Done;
     }
     Command* const pCommand = Find(strFirst);
     if (pCommand == nullptr) {
-        err << (strFirst.isEmpty() ? tr("No command given.") : tr("Unknown command \"%1\".").arg(strFirst))
-            << "\n\n"
-            << Help();
+        environment.err << (strFirst.isEmpty() ? tr("No command given.")
+                                               : tr("Unknown command \"%1\".").arg(strFirst))
+                        << "\n\n"
+                        << Help();
         return ExitCode::WrongUse;
     }
     QStringList rest = arguments.mid(1);
     rest.first() = QStringLiteral("acs-scheme ") + pCommand->Name();
-    return pCommand->Run(rest, out, err);
+    return pCommand->Run(rest, environment);
 }

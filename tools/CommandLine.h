@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/Command.h"
+#include "tools/CommandEnvironment.h"
 
 #include <QCoreApplication>
 
@@ -17,7 +18,7 @@ public:
     ~CommandLine();
 
     /// `arguments` as of the process, the program's own name first. The result is an ExitCode.
-    int Run(const QStringList& arguments, QTextStream& out, QTextStream& err);
+    int Run(const QStringList& arguments, CommandEnvironment& environment);
 
 private:
     Command* Find(const QString& strName) const;

@@ -1,9 +1,9 @@
 #include "tools/MakeSiteCommand.h"
 
 #include "platform/SiteLibrary/SiteFile.h"
+#include "tools/CommandOptions.h"
 #include "tools/SiteMaker.h"
 
-#include <QCommandLineParser>
 #include <QTextStream>
 
 #include <algorithm>
@@ -37,57 +37,43 @@ QString MakeSiteCommand::Description() const
     return tr("Writes the site file of a made-up site.");
 }
 
-int MakeSiteCommand::Run(const QStringList& arguments, QTextStream& out, QTextStream& err)
+int MakeSiteCommand::Run(const QStringList& arguments, CommandEnvironment& environment)
 {
-    const QCommandLineOption doors(QStringLiteral("doors"),
-                                   tr("Number of doors, 1 to %1.").arg(SiteMaker::MaxDoors),
-                                   QStringLiteral("N"));
-    const QCommandLineOption seed(
-        QStringLiteral("seed"),
-        tr("Which of the many sites of that size, 0 to 4294967295; the same seed gives the same site."),
-        QStringLiteral("S"), QStringLiteral("1"));
-    const QCommandLineOption output(QStringLiteral("output"),
-                                    tr("File to write; without it the site goes to the standard output."),
-                                    QStringLiteral("FILE"));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this help."));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(Description());
-    parser.addOptions({doors, seed, output, help});
+    const QString doors = QStringLiteral("doors");
+    const QString seed = QStringLiteral("seed");
+    const QString output = QStringLiteral("output");
+    CommandOptions options(Description(), tr("--doors N [--seed S] [--output FILE]"));
+    options.Add(doors, tr("Number of doors, 1 to %1.").arg(SiteMaker::MaxDoors), QStringLiteral("N"));
+    options.Add(
+        seed, tr("Which of the many sites of that size, 0 to 4294967295; the same seed gives the same site."),
+        QStringLiteral("S"));
+    options.Add(output, tr("File to write; without it the site goes to the standard output."),
+                QStringLiteral("FILE"));
+    // A site is JSON whichever is asked for.
+    options.AddFormat();
+    if (const std::optional<int> code = options.Parse(arguments, environment))
+        return *code;
 
-    const auto wrongUse = [&err](const QString& strWhy) {
-        err << strWhy << '\n';
-        return ExitCode::WrongUse;
-    };
-    if (!parser.parse(arguments))
-        return wrongUse(parser.errorText());
-    if (parser.isSet(help)) {
-        // The parser names the program only; the rest of its text is what is wanted here.
-        const QString strText = parser.helpText();
-        out << tr("Usage: %1 --doors N [--seed S] [--output FILE]").arg(arguments.first())
-            << strText.mid(strText.indexOf(QLatin1Char('\n')));
-        return ExitCode::Done;
+    if (!options.IsSet(doors))
+        return CommandOptions::WrongUse(environment, tr("--doors is missing."));
+    const auto doorCount = Number(options.Value(doors), 1, SiteMaker::MaxDoors);
+    if (!doorCount) {
+        return CommandOptions::WrongUse(
+            environment, tr("--doors takes a whole number from 1 to %1.").arg(SiteMaker::MaxDoors));
     }
-    if (!parser.positionalArguments().isEmpty())
-        return wrongUse(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
-    if (!parser.isSet(doors))
-        return wrongUse(tr("--doors is missing."));
-    const auto doorCount = Number(parser.value(doors), 1, SiteMaker::MaxDoors);
-    if (!doorCount)
-        return wrongUse(tr("--doors takes a whole number from 1 to %1.").arg(SiteMaker::MaxDoors));
-    const auto seedValue = Number(parser.value(seed), 0, std::numeric_limits<uint32_t>::max());
+    const QString strSeed = options.IsSet(seed) ? options.Value(seed) : QStringLiteral("1");
+    const auto seedValue = Number(strSeed, 0, std::numeric_limits<uint32_t>::max());
     if (!seedValue)
-        return wrongUse(tr("--seed takes a whole number from 0 to 4294967295."));
-    if (parser.isSet(output) && parser.value(output).isEmpty())
-        return wrongUse(tr("--output takes the name of a file."));
+        return CommandOptions::WrongUse(environment, tr("--seed takes a whole number from 0 to 4294967295."));
 
     const Site site = SiteMaker::MakeSite(static_cast<int>(*doorCount), static_cast<uint32_t>(*seedValue));
-    if (!parser.isSet(output)) {
-        out << QString::fromUtf8(SiteFile::ToText(site));
+    if (!options.IsSet(output)) {
+        environment.out << QString::fromUtf8(SiteFile::ToText(site));
         return ExitCode::Done;
     }
     SiteFileError error;
-    if (!SiteFile::Write(parser.value(output), site, error)) {
-        err << error.Text() << '\n';
+    if (!SiteFile::Write(options.Value(output), site, error)) {
+        environment.err << error.Text() << '\n';
         return ExitCode::Failure;
     }
     return ExitCode::Done;

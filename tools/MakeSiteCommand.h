@@ -12,5 +12,5 @@ class MakeSiteCommand : public Command
 public:
     QString Name() const override;
     QString Description() const override;
-    int Run(const QStringList& arguments, QTextStream& out, QTextStream& err) override;
+    int Run(const QStringList& arguments, CommandEnvironment& environment) override;
 };

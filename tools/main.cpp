@@ -1,8 +1,28 @@
 #include "tools/CommandLine.h"
 
+#include <QElapsedTimer>
 #include <QTextStream>
 
 #include <cstdio>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+bool IsTerminal(FILE* pFile)
+{
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(pFile)) != 0;
+#else
+    return isatty(fileno(pFile)) != 0;
+#endif
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -13,10 +33,14 @@ int main(int argc, char* argv[])
     QTextStream err(stderr);
     out.setCodec("UTF-8");
     err.setCodec("UTF-8");
-    const int code = CommandLine().Run(QCoreApplication::arguments(), out, err);
+    QElapsedTimer clock;
+    clock.start();
+    CommandEnvironment environment{out, err, ClientDataDirectory(), IsTerminal(stderr),
+                                   [&clock]() { return clock.elapsed(); }};
+    const int code = CommandLine().Run(QCoreApplication::arguments(), environment);
     out.flush();
     // A full disk behind a redirection shows only here.
-    if (code == ExitCode::Done && out.status() != QTextStream::Ok) {
+    if ((code == ExitCode::Done || code == ExitCode::Finding) && out.status() != QTextStream::Ok) {
         err << QCoreApplication::translate("CommandLine", "The output could not be written.") << '\n';
         return ExitCode::Failure;
     }

@@ -16,7 +16,8 @@ struct Run
     {
         QTextStream outStream(&out);
         QTextStream errStream(&err);
-        code = CommandLine().Run(QStringList(QStringLiteral("acs-scheme")) + arguments, outStream, errStream);
+        CommandEnvironment environment{outStream, errStream};
+        code = CommandLine().Run(QStringList(QStringLiteral("acs-scheme")) + arguments, environment);
     }
 
     QString out;
