@@ -132,6 +132,54 @@ QString ACSEventSchemeEditor::GetEditedScheme() const
     return m_strEditedScheme;
 }
 
+int ACSEventSchemeEditor::GetEnabledSchemes() const
+{
+    return static_cast<int>(std::count_if(m_schemes.cbegin(), m_schemes.cend(),
+                                          [](const AlarmInfo& info) { return info.bOpen; }));
+}
+
+QString ACSEventSchemeEditor::GetUndoText() const
+{
+    return {};
+}
+
+QString ACSEventSchemeEditor::GetRedoText() const
+{
+    return {};
+}
+
+bool ACSEventSchemeEditor::CanUndo() const
+{
+    return false;
+}
+
+bool ACSEventSchemeEditor::CanRedo() const
+{
+    return false;
+}
+
+void ACSEventSchemeEditor::Undo()
+{
+}
+
+void ACSEventSchemeEditor::Redo()
+{
+}
+
+void ACSEventSchemeEditor::MarkUnsaved()
+{
+}
+
+QByteArray ACSEventSchemeEditor::Draft() const
+{
+    return {};
+}
+
+int ACSEventSchemeEditor::RestoreDraft(const QByteArray& draft)
+{
+    return draft.isEmpty() ? -1 : 0;
+}
+
 void ACSEventSchemeEditor::BuildDeviceTree()
 {
     VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();

@@ -40,6 +40,14 @@ class ACSEventSchemeEditor : public QFrame
     Q_OBJECT
     /// The edited source and event in words, for a host's status bar.
     Q_PROPERTY(QString editedScheme READ GetEditedScheme NOTIFY SignalEditedSchemeChanged)
+    /// How many schemes are switched on.
+    Q_PROPERTY(int enabledSchemes READ GetEnabledSchemes NOTIFY SignalEnabledSchemesChanged)
+    /// The last edit in words, as a host's menu names it after "Undo": "Paint Monday". Empty when there is
+    /// none.
+    Q_PROPERTY(QString undoText READ GetUndoText NOTIFY SignalUndoChanged)
+    Q_PROPERTY(QString redoText READ GetRedoText NOTIFY SignalUndoChanged)
+    Q_PROPERTY(bool canUndo READ CanUndo NOTIFY SignalUndoChanged)
+    Q_PROPERTY(bool canRedo READ CanRedo NOTIFY SignalUndoChanged)
 
 public:
     explicit ACSEventSchemeEditor(QWidget* parent = nullptr);
@@ -53,11 +61,18 @@ public:
 
     const AlarmInfoMap& GetAlarmInfoMap() const;
     QString GetEditedScheme() const;
+    int GetEnabledSchemes() const;
+    QString GetUndoText() const;
+    QString GetRedoText() const;
+    bool CanUndo() const;
+    bool CanRedo() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     void SignalEditedSchemeChanged(const QString& strText);
+    void SignalEnabledSchemesChanged();
+    void SignalUndoChanged(); ///< one of the four properties of undo and redo has changed
 
 public Q_SLOTS:
     void OnOptionBtnClicked();
@@ -70,6 +85,21 @@ public Q_SLOTS:
     void OnCopyTo();
     void OnCopyToImp(QList<QString> keys);
     void OnRemoveDevice(int64_t iDevUniqueId);
+
+public:
+    /// Takes back the last edit, or makes the one taken back again, and shows where it happened. Does nothing
+    /// when there is none and while the mouse drags.
+    Q_INVOKABLE void Undo();
+    Q_INVOKABLE void Redo();
+    /// The host says that the last save did not reach the disk: the page counts as unsaved again against the
+    /// state before that save.
+    Q_INVOKABLE void MarkUnsaved();
+    /// The edits that are not saved, for a file that outlives a crash: the schemes that differ from what was
+    /// last loaded or saved. Empty when nothing differs.
+    Q_INVOKABLE QByteArray Draft() const;
+    /// Makes the edits of a draft again, as one edit that can be undone. How many schemes changed by it, -1
+    /// when the bytes are no usable draft.
+    Q_INVOKABLE int RestoreDraft(const QByteArray& draft);
 
 protected:
     void customEvent(QEvent* event) override;
