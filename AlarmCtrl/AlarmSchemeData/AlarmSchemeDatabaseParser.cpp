@@ -51,6 +51,16 @@ AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(const ConnectionSetup& setu
     Open(setup);
 }
 
+AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(sqlite3* pCopy)
+    : m_pDatabase(pCopy)
+    , m_bQuiet(true)
+    , m_fileCheck(std::make_unique<AlarmSchemeFileCheck>())
+{
+    AcceptQuotedTexts();
+    ExecFixed(SchemeStatements::ForeignKeysOn);
+    BringUpToDate();
+}
+
 AlarmSchemeDatabaseParser::~AlarmSchemeDatabaseParser()
 {
     Close();
@@ -94,7 +104,11 @@ void AlarmSchemeDatabaseParser::Open(const ConnectionSetup& setup)
             m_strPath = path;
         }
     }
+    BringUpToDate();
+}
 
+void AlarmSchemeDatabaseParser::BringUpToDate()
+{
     BeginTransaction();
     CreateSchema();
     EndTransaction();
@@ -161,7 +175,7 @@ int32_t AlarmSchemeDatabaseParser::ExecOnce(const QString& strSql)
     const std::unique_ptr<char, decltype(&sqlite3_free)> owner(message, &sqlite3_free);
     if (result != SQLITE_OK)
         CountFailure(sqlite3_extended_errcode(m_pDatabase), QString::fromUtf8(message));
-    if (message != nullptr)
+    if (message != nullptr && !m_bQuiet)
         LogFailure(message);
     return result;
 }

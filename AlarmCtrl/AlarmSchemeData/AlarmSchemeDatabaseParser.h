@@ -109,7 +109,13 @@ public:
     int32_t DisableAllSchemesBut(const AlarmInfoMap& map);
 
 private:
+    friend class AlarmSchemeStoreReader;
+    /// Takes over a connection to a copy that is only looked at, and brings the copy up to date. What fails
+    /// there is nothing for the log.
+    explicit AlarmSchemeDatabaseParser(sqlite3* pCopy);
+
     void Open(const ConnectionSetup& setup);
+    void BringUpToDate();
     void Close();
     void AcceptQuotedTexts();
     void CreateSchema();
@@ -168,6 +174,7 @@ private:
 
     QString m_strPath;
     sqlite3* m_pDatabase = nullptr;
+    bool m_bQuiet = false;
     int32_t m_iDepth = 0;
     int64_t m_iFailed = 0;
     std::optional<AlarmSchemeStatementFailure> m_firstFailure;

@@ -21,6 +21,10 @@ struct TableShape
     const char* szForeign; ///< columns that refer to a column of the same name in the table of that name
 };
 
+/// The one column that came later, the last of its table.
+constexpr char MailTable[] = "AlarmBaseInfo";
+constexpr char MailColumn[] = " bSendEmail:bit";
+
 constexpr std::array<TableShape, 10> Tables{{
     {"AlarmUniqueID", "AlarmUniqueID:integer strEventSource:varchar[(1000)] AlarmType:integer", ""},
     {"AlarmBaseInfo",
@@ -115,9 +119,11 @@ QByteArray TableList()
     return list;
 }
 
-bool HasShape(sqlite3* pDatabase, const TableShape& table)
+bool HasShape(sqlite3* pDatabase, const TableShape& table, bool bMail = true)
 {
     QByteArray columns(table.szColumns);
+    if (!bMail && qstrcmp(table.szName, MailTable) == 0)
+        columns.chop(static_cast<int>(qstrlen(MailColumn)));
     columns.replace(' ', ":00 ");
     columns += ":00";
     columns.replace(columns.indexOf(":00"), 3, ":11");
@@ -191,11 +197,24 @@ bool HasOnlyOurObjects(sqlite3* pDatabase)
                     0);
 }
 
+bool HasOurTables(sqlite3* pDatabase, bool bMail)
+{
+    return std::all_of(Tables.cbegin(), Tables.cend(), [pDatabase, bMail](const TableShape& table) {
+        return HasShape(pDatabase, table, bMail);
+    });
+}
+
+bool IsIndexThere(sqlite3* pDatabase, const IndexShape& index)
+{
+    return IsNumber(
+        pDatabase, QByteArray("select count(*) from main.sqlite_master where name = '") + index.szName + '\'',
+        1);
+}
+
 bool IsSchemaKnown(sqlite3* pDatabase)
 {
     return IsText(pDatabase, "PRAGMA main.encoding", "UTF-8") && HasOnlyOurObjects(pDatabase) &&
-           std::all_of(Tables.cbegin(), Tables.cend(),
-                       [pDatabase](const TableShape& table) { return HasShape(pDatabase, table); }) &&
+           HasOurTables(pDatabase, true) &&
            std::all_of(Indexes.cbegin(), Indexes.cend(),
                        [pDatabase](const IndexShape& index) { return HasShape(pDatabase, index); });
 }
@@ -236,6 +255,19 @@ bool AlarmSchemeFileCheck::IsKnown(sqlite3* pDatabase)
            IsNumber(pDatabase, "select count(*) from sqlite_temp_master", 0);
 }
 
+AlarmSchemeFileCheck::Columns AlarmSchemeFileCheck::ReadableColumns(sqlite3* pDatabase)
+{
+    const auto isMissingOrOurs = [pDatabase](const IndexShape& index) {
+        return !IsIndexThere(pDatabase, index) || HasShape(pDatabase, index);
+    };
+    if (!IsText(pDatabase, "PRAGMA main.encoding", "UTF-8") || !HasOnlyOurObjects(pDatabase) ||
+        !std::all_of(Indexes.cbegin(), Indexes.cend(), isMissingOrOurs))
+        return Columns::Unknown;
+    if (HasOurTables(pDatabase, true))
+        return Columns::All;
+    return HasOurTables(pDatabase, false) ? Columns::AllButMail : Columns::Unknown;
+}
+
 bool AlarmSchemeFileCheck::IsKnownForWriting(sqlite3* pDatabase)
 {
     return IsKnown(pDatabase) &&
@@ -248,11 +280,7 @@ void AlarmSchemeFileCheck::AddMissingIndexes(sqlite3* pDatabase)
     const auto run = [pDatabase](const char* szStatement) {
         return sqlite3_exec(pDatabase, szStatement, nullptr, nullptr, nullptr) == SQLITE_OK;
     };
-    const auto isThere = [pDatabase](const IndexShape& index) {
-        return IsNumber(
-            pDatabase,
-            QByteArray("select count(*) from main.sqlite_master where name = '") + index.szName + '\'', 1);
-    };
+    const auto isThere = [pDatabase](const IndexShape& index) { return IsIndexThere(pDatabase, index); };
     // Within somebody's transaction they are left for the next opening.
     if (sqlite3_get_autocommit(pDatabase) == 0 || std::all_of(Indexes.cbegin(), Indexes.cend(), isThere) ||
         !run("BEGIN IMMEDIATE"))

@@ -13,6 +13,15 @@ class AlarmSchemeFileCheck
 public:
     /// Enough to read in one pass. Cheap unless the schema has changed since the last time.
     bool IsKnown(sqlite3* pDatabase);
+    /// Enough to read in one pass what the store has not opened: the indexes may be missing, and so may the
+    /// column of the mail flag, as in files from before there was one.
+    enum class Columns
+    {
+        Unknown,
+        All,
+        AllButMail,
+    };
+    static Columns ReadableColumns(sqlite3* pDatabase);
     /// Enough to write in one pass: the counters of the ids stand where inserting leaves them too.
     bool IsKnownForWriting(sqlite3* pDatabase);
 

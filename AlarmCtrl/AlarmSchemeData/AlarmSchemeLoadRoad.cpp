@@ -64,9 +64,10 @@ struct AlarmSchemeLoadRoad::Cell
     bool operator==(const Cell& other) const { return iWindow == other.iWindow && window == other.window; }
 };
 
-AlarmSchemeLoadRoad::AlarmSchemeLoadRoad(sqlite3* pDatabase, AlarmInfoMap& map)
+AlarmSchemeLoadRoad::AlarmSchemeLoadRoad(sqlite3* pDatabase, AlarmInfoMap& map, bool bMailColumn)
     : m_pDatabase(pDatabase)
     , m_map(map)
+    , m_bMailColumn(bMailColumn)
 {
 }
 
@@ -108,7 +109,8 @@ bool AlarmSchemeLoadRoad::Load(const ReadLiterally& readLiterally)
         return false;
 
     // The base rows first: they say how many cells and windows count.
-    bool read = EachOwnedRow(ScanBase, 0, [this](Scheme& scheme, const auto& row) { ReadBase(scheme, row); });
+    bool read = EachOwnedRow(m_bMailColumn ? ScanBase : ScanBaseWithoutMail, 0,
+                             [this](Scheme& scheme, const auto& row) { ReadBase(scheme, row); });
     read = read && EachOwnedRow(ScanDefenceTime, 0,
                                 [this](Scheme& scheme, const auto& row) { ReadRegion(scheme, row); });
     FinishRegions();

@@ -20,7 +20,8 @@ public:
     /// Reads one scheme, by its key, into a fresh record.
     using ReadLiterally = std::function<void(const AlarmSourceKey&, AlarmInfo&)>;
 
-    AlarmSchemeLoadRoad(sqlite3* pDatabase, AlarmInfoMap& map);
+    /// Without the mail column, all mail flags are off.
+    AlarmSchemeLoadRoad(sqlite3* pDatabase, AlarmInfoMap& map, bool bMailColumn = true);
     ~AlarmSchemeLoadRoad();
     AlarmSchemeLoadRoad(const AlarmSchemeLoadRoad&) = delete;
     AlarmSchemeLoadRoad& operator=(const AlarmSchemeLoadRoad&) = delete;
@@ -55,6 +56,7 @@ private:
 
     sqlite3* m_pDatabase;
     AlarmInfoMap& m_map;
+    bool m_bMailColumn;
     std::vector<Scheme> m_schemes; ///< by id
     size_t m_iFound = 0;           ///< rows of one scheme mostly lie together, and schemes in order
     QList<AlarmSourceKey> m_unusual;

@@ -228,6 +228,10 @@ inline constexpr char ScanAlarmOutTexts[] =
 inline constexpr char ScanBase[] =
     "select AlarmUniqueID, bOpen, bOpenSound, bEmapTwinkle, bSendEmail, SplitRow, SplitCloum, SplitCount "
     "from AlarmBaseInfo order by id";
+/// Of files that lack the mail flag.
+inline constexpr char ScanBaseWithoutMail[] =
+    "select AlarmUniqueID, bOpen, bOpenSound, bEmapTwinkle, null, SplitRow, SplitCloum, SplitCount "
+    "from AlarmBaseInfo order by id";
 inline constexpr char ScanDefenceTime[] =
     "select AlarmUniqueID, Day, Begin, End from AlarmDefenceTimeInfo order by id";
 inline constexpr char ScanAlarmOut[] =
