@@ -52,5 +52,5 @@ pictures: build
 bench:
 	@./scripts/install-dependencies.sh bench
 	@cmake --preset bench
-	@cmake --build $(BUILD)/bench
+	@cmake --build $(BUILD)/bench --target benchmarks
 	@./scripts/run-benchmarks.sh $(BUILD)

@@ -1,0 +1,113 @@
+#include "tests/store_faults/FaultTestKit.h"
+
+#include "client/store/StoredSchemes.h"
+#include "tests/AlarmSchemeData/RawDatabase.h"
+
+#include <sqlite3.h>
+
+#include <atomic>
+
+namespace {
+
+std::atomic<sqlite3*> s_last{nullptr};
+
+int OnOpen(sqlite3* pDatabase, char**, const void*)
+{
+    s_last = pDatabase;
+    return SQLITE_OK;
+}
+
+AlarmSourceKey Door(int iDoor)
+{
+    return AlarmSourceKey{EventSource::Door(1, iDoor), 3};
+}
+
+AlarmInfo Info(int iDoor, int iTime)
+{
+    AlarmInfo info;
+    info.bOpen = true;
+    info.bOpenSound = iDoor % 2 == 0;
+    info.listDoor.append({QString::number(iDoor), true});
+    info.listAlarmOut.append({EventSource::AlarmOutput(iDoor), true, iTime});
+    info.videoSplit.SplitRow = 2;
+    info.videoSplit.SplitCloum = 1;
+    info.videoSplit.SplitCount = 2;
+    info.videoSplit.videoLinks[iDoor % 2].strLinkDevID = EventSource::Door(2, iDoor);
+    info.defenceTime[iDoor % 7] = {{iTime, 3600}, {7200, 7200 + iTime}};
+    return info;
+}
+
+/// Of every seven schemes one is left out, two change; a third more are new.
+SchemeChange Change(int iSchemes)
+{
+    SchemeChange change;
+    for (int door = 0; door < iSchemes; ++door) {
+        change.before.insert(Door(door), Info(door, 20));
+        AlarmInfo stored = Info(door, door % 7 < 2 ? 30 : 20);
+        if (door % 7 == 6) {
+            stored.bOpen = false;
+        } else {
+            change.after.insert(Door(door), stored);
+        }
+        change.stored.insert(Door(door), stored);
+    }
+    for (int door = iSchemes; door < iSchemes + iSchemes / 3; ++door) {
+        change.after.insert(Door(door), Info(door, 40));
+        change.stored.insert(Door(door), Info(door, 40));
+    }
+    return change;
+}
+
+} // namespace
+
+SchemeChange FaultTestKit::FewSchemes()
+{
+    return Change(21);
+}
+
+SchemeChange FaultTestKit::ManySchemes()
+{
+    return Change(210);
+}
+
+QString FaultTestKit::Differs(const AlarmInfoMap& expected)
+{
+    AlarmInfoMap map;
+    QString path;
+    {
+        AlarmSchemeStoreBackend backend;
+        if (backend.Load(map) != 0)
+            return QStringLiteral("not loaded: ") + backend.LastOutcome().strTechnical;
+        path = backend.GetPath();
+    }
+    const QString sound = RawDatabase(path).Value(QStringLiteral("pragma integrity_check"));
+    if (sound != QLatin1String("ok"))
+        return sound;
+    return map == expected ? QString() : QStringLiteral("other schemes");
+}
+
+void FaultTestKit::MakeFile(const AlarmInfoMap& schemes)
+{
+    AlarmSchemeStoreBackend backend;
+    AlarmInfoMap map;
+    if (backend.Load(map) != 0 || SaveAndWait(backend, schemes) != 0)
+        qFatal("cannot store schemes for a test");
+}
+
+WatchedConnections::WatchedConnections()
+{
+    s_last = nullptr;
+    sqlite3_auto_extension(reinterpret_cast<void (*)()>(&OnOpen));
+}
+
+WatchedConnections::~WatchedConnections()
+{
+    sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(&OnOpen));
+}
+
+void WatchedConnections::KeepFewPages() const
+{
+    if (s_last == nullptr ||
+        sqlite3_exec(s_last, "PRAGMA cache_size = 10", nullptr, nullptr, nullptr) != SQLITE_OK)
+        qFatal("cannot bound the memory of a connection");
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client_store/SaveAndWait.h"
+#include "tests/store_faults/DiskContent.h"
+
+#include <QString>
+
+#include <optional>
+
+struct sqlite3;
+
+/// Two states of a file, for saving the one over the other.
+struct SchemeChange
+{
+    AlarmInfoMap before; ///< stored
+    AlarmInfoMap after;  ///< to be saved: some schemes changed, some new, some left out
+    AlarmInfoMap stored; ///< what is stored then: those that were left out are disabled
+};
+
+namespace FaultTestKit {
+
+/// So few changes that they are saved part by part.
+SchemeChange FewSchemes();
+/// So many that they are saved together.
+SchemeChange ManySchemes();
+
+/// Empty when the file of the current data directory is sound and holds exactly these schemes; otherwise what
+/// is wrong. Looks through a client that starts now.
+QString Differs(const AlarmInfoMap& expected);
+
+/// The current data directory gets a file with these schemes, closed.
+void MakeFile(const AlarmInfoMap& schemes);
+
+} // namespace FaultTestKit
+
+/// Knows the connections that are opened during its life.
+class WatchedConnections
+{
+public:
+    WatchedConnections();
+    ~WatchedConnections();
+    WatchedConnections(const WatchedConnections&) = delete;
+    WatchedConnections& operator=(const WatchedConnections&) = delete;
+
+    /// The connection that was opened last, which has to be open and idle, keeps so few pages in memory that
+    /// a large save reaches the file before its end.
+    void KeepFewPages() const;
+};
