@@ -27,6 +27,8 @@ constexpr char Magic[] = "SQLite format 3";
 constexpr int WriteVersionAt = 18;
 constexpr int ReadVersionAt = 19;
 constexpr char WriteAheadLog = 2;
+/// No page is smaller.
+constexpr qint64 LeastSize = 512;
 
 Reason ReasonOf(int iCode)
 {
@@ -175,6 +177,8 @@ bool AlarmSchemeReadOnlyFile::LookAtFile()
     // SQLite takes an empty file for a database without tables.
     if (header.isEmpty())
         return Refuse(Reason::NoSchemes);
+    if (file.size() < LeastSize)
+        return Refuse(Reason::NotADatabase);
     m_bWriteAheadLog =
         header.startsWith(Magic) && header.size() > ReadVersionAt &&
         (header.at(WriteVersionAt) == WriteAheadLog || header.at(ReadVersionAt) == WriteAheadLog);

@@ -33,6 +33,12 @@ AlarmSchemeRun& AlarmSchemeRun::Bind(const QByteArray& text)
     return *this;
 }
 
+AlarmSchemeRun& AlarmSchemeRun::BindBlob(const QByteArray& bytes)
+{
+    sqlite3_bind_blob(m_pStatement, ++m_iBound, bytes.constData(), bytes.size(), SQLITE_STATIC);
+    return *this;
+}
+
 sqlite3_value* AlarmSchemeRun::Value(int iColumn) const
 {
     sqlite3_value*& value = m_values[static_cast<size_t>(iColumn)];
@@ -86,4 +92,10 @@ const char* AlarmSchemeRun::Bytes(int iColumn) const
 int AlarmSchemeRun::Size(int iColumn) const
 {
     return sqlite3_value_bytes(Value(iColumn));
+}
+
+QByteArray AlarmSchemeRun::Blob(int iColumn) const
+{
+    const auto* bytes = static_cast<const char*>(sqlite3_value_blob(Value(iColumn)));
+    return QByteArray(bytes, bytes == nullptr ? 0 : sqlite3_value_bytes(Value(iColumn)));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "alarmschemestore_export.h"
+
 #include <QByteArray>
 
 #include <array>
@@ -11,7 +13,7 @@ struct sqlite3_value;
 
 /// A statement that is compiled once and run many times; finalized at the end of its scope. The connection
 /// must outlive it.
-class AlarmSchemeStatement
+class ALARMSCHEMESTORE_EXPORT AlarmSchemeStatement
 {
 public:
     /// One that does not compile is false, and every run of it fails.
@@ -33,7 +35,7 @@ private:
 
 /// One run of a statement with up to eight columns. At the end of its scope the statement is ready for the
 /// next one. Values of a row are valid until the next row.
-class AlarmSchemeRun
+class ALARMSCHEMESTORE_EXPORT AlarmSchemeRun
 {
 public:
     explicit AlarmSchemeRun(AlarmSchemeStatement& statement)
@@ -49,6 +51,7 @@ public:
     AlarmSchemeRun& Bind(int32_t iNumber) { return Bind(static_cast<int64_t>(iNumber)); }
     AlarmSchemeRun& Bind(bool bFlag) { return Bind(static_cast<int64_t>(bFlag ? 1 : 0)); }
     AlarmSchemeRun& Bind(const QByteArray& text);
+    AlarmSchemeRun& BindBlob(const QByteArray& bytes);
 
     /// Whether there is a (further) row.
     bool Next();
@@ -65,6 +68,7 @@ public:
     /// The bytes of the value as text.
     const char* Bytes(int iColumn) const;
     int Size(int iColumn) const;
+    QByteArray Blob(int iColumn) const; ///< a copy
 
 private:
     static constexpr int MostColumns = 8;

@@ -57,7 +57,7 @@ AlarmSchemeReadOutcome AlarmSchemeStoreReader::Read(AlarmInfoMap& map) const
                 file.Fail(failure->iCode, failure->strMessage);
         }
     }
-    if (!read || !file.Close()) {
+    if (!read || !file.IsGoingOn() || !file.Close()) {
         map.clear();
         return file.Outcome();
     }
