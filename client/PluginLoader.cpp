@@ -1,6 +1,7 @@
 #include "client/PluginLoader.h"
 
 #include "client/ClientLog.h"
+#include "client/ModulePlatform.h"
 #include "platform/LXPluginAPI/IAbstractUI.h"
 #include "platform/LXPluginAPI/IAbstractWidget.h"
 #include "platform/LXPluginAPI/IClientUIPluginAPI.h"
@@ -174,6 +175,10 @@ QString PluginLoader::LoadRoot(Plugin& plugin) const
     if (metaData.value(QLatin1String("className")).toString().isEmpty()) {
         return tr("the file is no module (%1)").arg(plugin.library->errorString());
     }
+    const QString strUnfit = WhyUnfit(metaData);
+    if (!strUnfit.isEmpty()) {
+        return strUnfit;
+    }
     if (!plugin.library->load()) {
         return tr("the file cannot be loaded (%1)").arg(plugin.library->errorString());
     }
@@ -189,6 +194,29 @@ QString PluginLoader::LoadRoot(Plugin& plugin) const
     plugin.strKey = QString::fromStdString(plugin.pApi->GetModuleKey());
     if (plugin.strKey.isEmpty()) {
         return tr("the module has no key");
+    }
+    return {};
+}
+
+QString PluginLoader::WhyUnfit(const QJsonObject& metaData)
+{
+    const std::optional<QString> strStated = ModulePlatform::Stated(metaData);
+    if (!strStated) {
+        return {};
+    }
+    const QString strOwn = ModulePlatform::ToText(ModulePlatform::Own());
+    switch (ModulePlatform::Compare(*strStated, ModulePlatform::Own())) {
+    case ModulePlatform::Fit::Fits:
+        break;
+    case ModulePlatform::Fit::Unreadable:
+        return tr("the module states no readable platform version");
+    case ModulePlatform::Fit::OtherMajor:
+        return tr("the module is built for version %1 of the platform, this client has %2; "
+                  "it needs a build for this version")
+            .arg(*strStated, strOwn);
+    case ModulePlatform::Fit::NewerMinor:
+        return tr("the module needs version %1 of the platform, this client has %2; the client is too old")
+            .arg(*strStated, strOwn);
     }
     return {};
 }

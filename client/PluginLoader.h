@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+class QJsonObject;
 class QPluginLoader;
 
 namespace LXPluginAPI {
@@ -41,12 +42,12 @@ struct PluginInfo
 
 /// Loads modules from files, keeps them through their life and takes them down again.
 ///
-/// Life of a module: its metadata is read, the file loaded, the root object cast to IClientUIPluginAPI, the
-/// managers handed over one by one, Load, Initialize; when all are there, Start, the UI object, the page
-/// descriptor. At the end: the page destroyed, Stop, Uninitialize, the root object deleted. The library
-/// itself stays mapped, since meta types and static texts live in it. A module that fails at any point is
-/// taken down as far as it came up and reported; the others run on. Nothing that a module throws gets out.
-/// User-interface thread only.
+/// Life of a module: its metadata is read, the platform version in it compared, the file loaded, the root
+/// object cast to IClientUIPluginAPI, the managers handed over one by one, Load, Initialize; when all are
+/// there, Start, the UI object, the page descriptor. At the end: the page destroyed, Stop, Uninitialize, the
+/// root object deleted. The library itself stays mapped, since meta types and static texts live in it. A
+/// module that fails at any point is taken down as far as it came up and reported; the others run on. Nothing
+/// that a module throws gets out. User-interface thread only.
 class PluginLoader
 {
     Q_DECLARE_TR_FUNCTIONS(PluginLoader)
@@ -79,6 +80,9 @@ private:
     static const Plugin* Twin(const Plugin& plugin, const Plugins& others);
     QString Guarded(const Step& step) const;
     void Report(const QString& strName, const QString& strReason);
+    /// Why a module with this metadata must not be loaded: it was built for another platform. Empty when it
+    /// may; a module that states no platform may.
+    static QString WhyUnfit(const QJsonObject& metaData);
     QString LoadRoot(Plugin& plugin) const;
     QString BringUp(Plugin& plugin, const LXPluginAPI::ManagerList& managers) const;
     QString BringUpUi(Plugin& plugin) const;

@@ -1,6 +1,11 @@
 # One place that says how this project's targets are made: warnings, sanitizers, output folders, exports.
 include(GenerateExportHeader)
 
+# Where an installation keeps what is its own, from its prefix. The programs find it from where they lie.
+set(ACS_HEADER_DIR include/acs-client)
+set(ACS_LIBRARY_DIR lib/acs-client)
+set(ACS_SHARED_DIR share/acs-client)
+
 add_library(acs_options INTERFACE)
 target_compile_definitions(acs_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
@@ -31,10 +36,13 @@ function(acs_library name)
             LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
             RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
             BUILD_RPATH_USE_ORIGIN ON INSTALL_RPATH "$ORIGIN")
+        # Every shared library of the product is installed; see packaging/.
+        set_property(GLOBAL APPEND PROPERTY ACS_SHARED_LIBRARIES ${name})
     endif()
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE acs_options ${ARG_PRIVATE})
     target_include_directories(${name} PUBLIC
-        $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}> $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/generated>)
+        $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}> $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/generated>
+        $<INSTALL_INTERFACE:${ACS_HEADER_DIR}>)
 endfunction()
 
 # acs_test(NAME SOURCES ... LIBS ...)

@@ -76,6 +76,7 @@ std::vector<Room> MakeRooms()
     const QString lookup = Text("scheme_editor/EventSourceLookup");
     const QString tabs = Text("scheme_editor/TabLayout");
     const QString tiles = Text("client/TileArrangement");
+    const QString modulePlatform = Text("client/ModulePlatform");
     const QString systemLibrary = Text("platform/SystemLibrary/");
     rooms.push_back({defenceTime, QtReach::Core, false, {records}});
     rooms.push_back({copy, QtReach::Core, false, {records, systemLibrary}});
@@ -87,6 +88,8 @@ std::vector<Room> MakeRooms()
                      {records, Text("platform/VantaLogic/"), Text("platform/VantaModel/NodeRoles.h")}});
     rooms.push_back({tabs, QtReach::Core, false, {}});
     rooms.push_back({tiles, QtReach::Core, false, {}});
+    rooms.push_back(
+        {modulePlatform, QtReach::Core, false, {Text("platform/LXPluginAPI/PlatformVersion.h")}});
 
     rooms.push_back(
         {hostServices,
@@ -107,9 +110,10 @@ std::vector<Room> MakeRooms()
                      platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
     rooms.push_back({Text("client/store/"), QtReach::Core, true,
                      platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
+    rooms.push_back({Text("client/mail/"), QtReach::Core, false, {systemLibrary}});
     rooms.push_back({Text("client/"), QtReach::Widgets, false,
-                     wholePlatform + QStringList{records, store, tiles, Text("client/store/"),
-                                                 Text("scheme_services/")}});
+                     wholePlatform + QStringList{records, store, tiles, modulePlatform, Text("client/store/"),
+                                                 Text("client/mail/"), Text("scheme_services/")}});
     return rooms;
 }
 

@@ -3,12 +3,16 @@
 #include "client/DeviceFunctionManager.h"
 #include "client/HubManager.h"
 #include "client/PluginLoader.h"
+#include "platform/LXPluginAPI/PlatformVersion.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <filesystem>
 #include <system_error>
+
+constexpr int NextMajor = LX_PLATFORM_VERSION_MAJOR + 1;
+constexpr int NextMinor = LX_PLATFORM_VERSION_MINOR + 1;
 
 class TestPluginLoader : public QObject
 {
@@ -30,6 +34,8 @@ private Q_SLOTS:
     void aModuleCanBeLoadedAgainAfterUnloading();
     void aModuleThatFailsIsReportedByNameAndReason_data();
     void aModuleThatFailsIsReportedByNameAndReason();
+    void aModuleOfThisPlatformIsLoaded();
+    void aModuleOfAnotherPlatformIsNamedWithBothVersionsAndNeverRun();
     void aModuleThatFailsIsTakenDownAgain_data();
     void aModuleThatFailsIsTakenDownAgain();
     void aTextFileWithALibrarysNameIsReported();
@@ -189,6 +195,17 @@ void TestPluginLoader::aModuleThatFailsIsReportedByNameAndReason_data()
     QTest::newRow("throws when asked for its right")
         << QStringLiteral("throws_right") << QStringLiteral("no right today");
     QTest::newRow("no key") << QStringLiteral("no_key") << QStringLiteral("key");
+    QTest::newRow("throws in its constructor")
+        << QStringLiteral("throws_in_constructor") << QStringLiteral("nothing to build on");
+    QTest::newRow("calls what is nowhere")
+        << QStringLiteral("missing_symbol") << QStringLiteral("OperationOfAnotherPlatform");
+    QTest::newRow("built for the next platform")
+        << QStringLiteral("next_platform") << QStringLiteral("built for version %1.0").arg(NextMajor);
+    QTest::newRow("built for a newer platform of this major version")
+        << QStringLiteral("newer_platform")
+        << QStringLiteral("needs version %1.%2").arg(NextMajor - 1).arg(NextMinor);
+    QTest::newRow("states no version that can be read")
+        << QStringLiteral("unreadable_platform") << QStringLiteral("readable platform version");
 }
 
 void TestPluginLoader::aModuleThatFailsIsReportedByNameAndReason()
@@ -200,6 +217,29 @@ void TestPluginLoader::aModuleThatFailsIsReportedByNameAndReason()
     ExpectOneProblem(strModule);
     QVERIFY2(m_loader->Problems().front().strReason.contains(strWord),
              qPrintable(m_loader->Problems().front().strReason));
+}
+
+void TestPluginLoader::aModuleOfThisPlatformIsLoaded()
+{
+    Install(QStringLiteral("this_platform"));
+    Load();
+    QVERIFY(m_loader->Problems().empty());
+    QCOMPARE(m_loader->Count(), 1);
+}
+
+void TestPluginLoader::aModuleOfAnotherPlatformIsNamedWithBothVersionsAndNeverRun()
+{
+    Install(QStringLiteral("next_platform"));
+    Load();
+    ExpectOneProblem(QStringLiteral("next_platform"));
+    const QString strReason = m_loader->Problems().front().strReason;
+    QVERIFY2(strReason.contains(QStringLiteral("%1.0").arg(NextMajor)), qPrintable(strReason));
+    QVERIFY2(
+        strReason.contains(QStringLiteral("this client has %1.%2").arg(NextMajor - 1).arg(NextMinor - 1)),
+        qPrintable(strReason));
+    // It calls what only the next platform has, and would be reported for that had it been loaded.
+    QVERIFY2(!strReason.contains(QStringLiteral("OperationOfAnotherPlatform")), qPrintable(strReason));
+    QVERIFY(TestModules::TakeCalls().isEmpty());
 }
 
 void TestPluginLoader::aModuleThatFailsIsTakenDownAgain_data()
@@ -263,12 +303,14 @@ void TestPluginLoader::otherFilesAreNotLookedAt()
 
 void TestPluginLoader::aBrokenModuleDoesNotStopTheOthers()
 {
-    for (const char* szModule : {"foreign", "good", "null_ui", "plain", "second", "throws"}) {
+    for (const char* szModule : {"foreign", "good", "missing_symbol", "next_platform", "null_ui", "plain",
+                                 "second", "throws", "throws_in_constructor"}) {
         Install(QLatin1String(szModule));
     }
+    WriteModuleFile("no library");
     Load();
     QCOMPARE(m_loader->Count(), 2);
-    QCOMPARE(int(m_loader->Problems().size()), 4);
+    QCOMPARE(int(m_loader->Problems().size()), 8);
     QVERIFY(m_loader->Page(m_loader->Find(QStringLiteral("second"))) != nullptr);
 }
 

@@ -14,6 +14,11 @@
 // as
 // "<key>:<call>", so that a test sees the order.
 
+#if defined(TEST_MISSING_SYMBOL)
+// Declared, but defined in no library.
+void OperationOfAnotherPlatform();
+#endif
+
 namespace {
 
 const char* const ModuleKey =
@@ -148,8 +153,20 @@ class TestModule : public QObject, public LXPluginAPI::IClientUIPluginAPI
     Q_INTERFACES(LXPluginAPI::IClientUIPluginAPI)
 
 public:
-    ~TestModule() override { Record(QStringLiteral("deleted")); }
-    std::string GetModuleKey() const override { return ModuleKey; }
+#if defined(TEST_THROWS_IN_CONSTRUCTOR)
+    TestModule()
+    {
+        throw std::runtime_error("nothing to build on");
+    }
+#endif
+    ~TestModule() override
+    {
+        Record(QStringLiteral("deleted"));
+    }
+    std::string GetModuleKey() const override
+    {
+        return ModuleKey;
+    }
     std::string GetRightName() const override
     {
 #if defined(TEST_ADMINISTRATORS)
@@ -168,6 +185,9 @@ public:
     bool Load() override
     {
         Record(QStringLiteral("Load"));
+#if defined(TEST_MISSING_SYMBOL)
+        OperationOfAnotherPlatform();
+#endif
 #if defined(TEST_REFUSES_LOAD)
         return false;
 #else
