@@ -88,8 +88,7 @@ std::vector<Room> MakeRooms()
                      {records, Text("platform/VantaLogic/"), Text("platform/VantaModel/NodeRoles.h")}});
     rooms.push_back({tabs, QtReach::Core, false, {}});
     rooms.push_back({tiles, QtReach::Core, false, {}});
-    rooms.push_back(
-        {modulePlatform, QtReach::Core, false, {Text("platform/LXPluginAPI/PlatformVersion.h")}});
+    rooms.push_back({modulePlatform, QtReach::Core, false, {Text("platform/LXPluginAPI/PlatformVersion.h")}});
 
     rooms.push_back(
         {hostServices,
@@ -105,7 +104,14 @@ std::vector<Room> MakeRooms()
                      wholePlatform + QStringList{records, store, defenceTime, hostServices,
                                                  Text("AlarmCtrl/"), Text("scheme_editor/")}});
 
-    rooms.push_back({Text("scheme_services/"), QtReach::Core, false, {records, store, systemLibrary}});
+    rooms.push_back({Text("scheme_services/evaluation/"),
+                     QtReach::Core,
+                     false,
+                     {records, systemLibrary, Text("platform/SiteLibrary/"), Text("platform/VantaLogic/")}});
+    rooms.push_back({Text("scheme_services/"),
+                     QtReach::Core,
+                     false,
+                     {records, store, systemLibrary, Text("scheme_services/evaluation/")}});
     rooms.push_back({Text("tools/"), QtReach::Gui, false,
                      platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
     rooms.push_back({Text("client/store/"), QtReach::Core, true,
