@@ -14,6 +14,8 @@ std::atomic<sqlite3*> s_last{nullptr};
 int OnOpen(sqlite3* pDatabase, char**, const void*)
 {
     s_last = pDatabase;
+    sqlite3_exec(pDatabase, "PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL", nullptr, nullptr,
+                 nullptr);
     return SQLITE_OK;
 }
 
@@ -67,12 +69,11 @@ SchemeChange FaultTestKit::FewSchemes()
 
 SchemeChange FaultTestKit::ManySchemes()
 {
-    return Change(210);
+    return Change(105);
 }
 
-QString FaultTestKit::Differs(const AlarmInfoMap& expected)
+QString FaultTestKit::Read(AlarmInfoMap& map)
 {
-    AlarmInfoMap map;
     QString path;
     {
         AlarmSchemeStoreBackend backend;
@@ -81,9 +82,42 @@ QString FaultTestKit::Differs(const AlarmInfoMap& expected)
         path = backend.GetPath();
     }
     const QString sound = RawDatabase(path).Value(QStringLiteral("pragma integrity_check"));
-    if (sound != QLatin1String("ok"))
-        return sound;
-    return map == expected ? QString() : QStringLiteral("other schemes");
+    return sound == QLatin1String("ok") ? QString() : sound;
+}
+
+QString FaultTestKit::Differs(const AlarmInfoMap& expected)
+{
+    AlarmInfoMap map;
+    const QString wrong = Read(map);
+    return !wrong.isEmpty() || map == expected ? wrong : QStringLiteral("other schemes");
+}
+
+QString FaultTestKit::IsTornBetween(const SchemeChange& change)
+{
+    AlarmInfoMap map;
+    const QString wrong = Read(map);
+    return !wrong.isEmpty() || map == change.before || map == change.stored
+               ? wrong
+               : QStringLiteral("neither the old nor the new schemes");
+}
+
+void FaultTestKit::ChangeForRound(AlarmInfoMap& map, int iClient, int iRound)
+{
+    map[Door(iClient)] = Info(iClient, 100 + iRound);
+    map.insert({EventSource::Door(10 + iClient, iRound), 3}, Info(iRound, iRound));
+}
+
+QString FaultTestKit::LostRound(const AlarmInfoMap& map, int iClients, int iRounds)
+{
+    for (int client = 0; client < iClients; ++client) {
+        if (map.value(Door(client)) != Info(client, 100 + iRounds))
+            return QStringLiteral("the last change of client %1").arg(client);
+        for (int round = 1; round <= iRounds; ++round) {
+            if (map.value({EventSource::Door(10 + client, round), 3}) != Info(round, round))
+                return QStringLiteral("round %1 of client %2").arg(round).arg(client);
+        }
+    }
+    return QString();
 }
 
 void FaultTestKit::MakeFile(const AlarmInfoMap& schemes)
@@ -108,6 +142,6 @@ WatchedConnections::~WatchedConnections()
 void WatchedConnections::KeepFewPages() const
 {
     if (s_last == nullptr ||
-        sqlite3_exec(s_last, "PRAGMA cache_size = 10", nullptr, nullptr, nullptr) != SQLITE_OK)
+        sqlite3_exec(s_last, "PRAGMA cache_size = 20", nullptr, nullptr, nullptr) != SQLITE_OK)
         qFatal("cannot bound the memory of a connection");
 }

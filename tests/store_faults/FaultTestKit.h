@@ -25,9 +25,19 @@ SchemeChange FewSchemes();
 /// So many that they are saved together.
 SchemeChange ManySchemes();
 
-/// Empty when the file of the current data directory is sound and holds exactly these schemes; otherwise what
-/// is wrong. Looks through a client that starts now.
+/// The schemes that a client finds which starts now. Empty when it loads them from a sound file, otherwise
+/// what is wrong.
+QString Read(AlarmInfoMap& map);
+/// Empty when the file of the current data directory is sound and holds exactly these schemes, otherwise
+/// what is wrong.
 QString Differs(const AlarmInfoMap& expected);
+/// Empty when it is sound and holds exactly the one or exactly the other schemes of a change.
+QString IsTornBetween(const SchemeChange& change);
+
+/// What one of several clients does in a round: a scheme that only it changes, and a new one.
+void ChangeForRound(AlarmInfoMap& map, int iClient, int iRound);
+/// Empty when every change of these clients is there.
+QString LostRound(const AlarmInfoMap& map, int iClients, int iRounds);
 
 /// The current data directory gets a file with these schemes, closed.
 void MakeFile(const AlarmInfoMap& schemes);
