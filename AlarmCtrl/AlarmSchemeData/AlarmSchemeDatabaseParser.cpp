@@ -45,10 +45,10 @@ AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser()
 {
 }
 
-AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(const ConnectionSetup& setup)
+AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(const ConnectionSetup& setup, const QString& strFile)
     : m_fileCheck(std::make_unique<AlarmSchemeFileCheck>())
 {
-    Open(setup);
+    Open(setup, strFile);
 }
 
 AlarmSchemeDatabaseParser::AlarmSchemeDatabaseParser(sqlite3* pCopy)
@@ -81,15 +81,17 @@ sqlite3* AlarmSchemeDatabaseParser::GetHandle() const
     return m_pDatabase;
 }
 
-void AlarmSchemeDatabaseParser::Open(const ConnectionSetup& setup)
+void AlarmSchemeDatabaseParser::Open(const ConnectionSetup& setup, const QString& strFile)
 {
     if (m_pDatabase != nullptr)
         return;
-    // Without a directory the file would come to lie wherever the program happens to run.
+    QString path = strFile;
     const QString directory = QGetDatabaseDirPath();
-    const QString path = QGetAbsolutePath(QStringLiteral("AlarmScheme.db"), directory);
+    // Without a directory the file would come to lie wherever the program happens to run.
+    if (path.isEmpty() && !directory.isEmpty())
+        path = QGetAbsolutePath(QStringLiteral("AlarmScheme.db"), directory);
     const int opened =
-        directory.isEmpty() ? SQLITE_CANTOPEN : sqlite3_open(path.toUtf8().constData(), &m_pDatabase);
+        path.isEmpty() ? SQLITE_CANTOPEN : sqlite3_open(path.toUtf8().constData(), &m_pDatabase);
     if (opened != SQLITE_OK) {
         m_firstFailure = AlarmSchemeStatementFailure{opened, QString::fromUtf8(sqlite3_errstr(opened))};
         Close();

@@ -49,7 +49,8 @@ public:
     using Clock = std::function<QDateTime()>;
 
     AlarmSchemeDatabaseParser();
-    explicit AlarmSchemeDatabaseParser(const ConnectionSetup& setup);
+    /// Another file than that of the database directory when it is named, by its absolute path.
+    explicit AlarmSchemeDatabaseParser(const ConnectionSetup& setup, const QString& strFile = QString());
     virtual ~AlarmSchemeDatabaseParser();
     AlarmSchemeDatabaseParser(const AlarmSchemeDatabaseParser&) = delete;
     AlarmSchemeDatabaseParser& operator=(const AlarmSchemeDatabaseParser&) = delete;
@@ -114,7 +115,7 @@ private:
     /// there is nothing for the log.
     explicit AlarmSchemeDatabaseParser(sqlite3* pCopy);
 
-    void Open(const ConnectionSetup& setup);
+    void Open(const ConnectionSetup& setup, const QString& strFile);
     void BringUpToDate();
     void Close();
     void AcceptQuotedTexts();

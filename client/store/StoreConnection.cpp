@@ -41,10 +41,10 @@ void StoreConnection::Open()
 {
     Close();
     const QString directory = QGetDatabaseDirPath();
-    if (!directory.isEmpty())
+    if (m_strFile.isEmpty() && !directory.isEmpty())
         QDir().mkpath(directory); // a failure shows in the opening
-    m_store =
-        std::make_unique<AlarmSchemeDatabaseParser>([this](sqlite3* pDatabase) { return SetUp(pDatabase); });
+    m_store = std::make_unique<AlarmSchemeDatabaseParser>(
+        [this](sqlite3* pDatabase) { return SetUp(pDatabase); }, m_strFile);
     const std::optional<AlarmSchemeStatementFailure> failure = m_store->TakeFirstFailure();
     if (!m_failure)
         m_failure = failure;

@@ -12,14 +12,19 @@
 class StoreConnection
 {
 public:
-    StoreConnection() = default;
+    /// Of the file in the database directory, or of the one that is named by its absolute path.
+    explicit StoreConnection(const QString& strFile = QString())
+        : m_strFile(strFile)
+    {
+    }
     StoreConnection(const StoreConnection&) = delete;
     StoreConnection& operator=(const StoreConnection&) = delete;
 
     /// Sets the time that may be spent waiting from now on, over all statements together.
     void AllowWaiting(std::chrono::milliseconds time);
 
-    /// Creates the database directory and opens the store; what was open before is closed.
+    /// Opens the store, which creates a file that is missing, and the database directory for it; what was
+    /// open before is closed.
     void Open();
     void Close();
 
@@ -39,6 +44,7 @@ private:
     void CheckSize(sqlite3* pDatabase);
     static void ForbidWriting(sqlite3* pDatabase);
 
+    QString m_strFile;
     std::chrono::steady_clock::time_point m_deadline{};
     std::optional<AlarmSchemeStatementFailure> m_failure;
     // Last: its connection calls back into the members above until it is closed.

@@ -3,6 +3,8 @@
 #include "client/store/AsStored.h"
 #include "client/store/SaveTransaction.h"
 
+#include <QFileInfo>
+
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -20,13 +22,46 @@ bool IsUncertain(const SavePlan& plan)
     });
 }
 
+SchemeHistoryChanges ChangesOf(const SavePlan& plan, const AlarmInfoMap& theirs)
+{
+    SchemeHistoryChanges changes;
+    changes.reserve(plan.Schemes());
+    const auto add = [&](const AlarmSourceKey& key, const std::optional<AlarmInfo>& after) {
+        const auto before = theirs.constFind(key);
+        changes.append({key, before == theirs.cend() ? std::nullopt : std::optional(*before), after});
+    };
+    for (const SavePlan::Change& change : plan.changes)
+        add(change.key, change.stored);
+    for (auto entry = plan.disabled.cbegin(); entry != plan.disabled.cend(); ++entry)
+        add(entry.key(), *entry);
+    for (const AlarmSourceKey& key : plan.removed)
+        add(key, std::nullopt);
+    std::sort(changes.begin(), changes.end(),
+              [](const SchemeHistoryChange& a, const SchemeHistoryChange& b) { return a.key < b.key; });
+    return changes;
+}
+
 } // namespace
 
-StoredSchemes::StoredSchemes(std::chrono::milliseconds busyTimeOut)
+StoredSchemes::StoredSchemes(std::chrono::milliseconds busyTimeOut, const QString& strFile)
     : m_busyTimeOut(busyTimeOut)
+    , m_connection(strFile)
 {
     // Not waiting here: a load follows, and waits if it has to.
+    Open();
+}
+
+StoredSchemes::~StoredSchemes()
+{
+    m_history.Forget();
+}
+
+void StoredSchemes::Open()
+{
+    m_history.Forget();
     m_connection.Open();
+    if (IsOpen() && !m_connection.OpeningFailure() && !m_bHistoryGivenUp)
+        m_history.Start(m_connection.Store()->GetHandle(), QFileInfo(GetPath()).path());
 }
 
 QString StoredSchemes::GetPath() const
@@ -41,8 +76,9 @@ LoadResult StoredSchemes::Load(AlarmInfoMap& map)
     m_version.reset();
     m_asked.reset();
     m_connection.AllowWaiting(m_busyTimeOut);
-    if (!IsOpen() || m_connection.OpeningFailure() || m_connection.IsMoved())
-        m_connection.Open();
+    const bool again = std::exchange(m_bHistoryGivenUp, false);
+    if (again || !IsOpen() || m_connection.OpeningFailure() || m_connection.IsMoved())
+        Open();
     const auto failed = [](const std::optional<AlarmSchemeStatementFailure>& failure, Reason eWithout) {
         return failure ? LoadResult{ReasonOfFailure(*failure), failure->strMessage}
                        : LoadResult{eWithout, QString()};
@@ -68,14 +104,103 @@ LoadResult StoredSchemes::Load(AlarmInfoMap& map)
 }
 
 SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer,
-                               SaveProgress& progress)
+                               const SaveOrigin& origin, SaveProgress& progress)
+{
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+        const bool agreed = answer && m_asked && *m_asked == theirs;
+        const bool over = agreed && *answer == SchemeConflictAnswer::SaveOver;
+        made = PlanSave(m_base, theirs, map, over ? SaveRule::Everything : SaveRule::OwnChanges);
+        if (!made.bAsk || agreed)
+            return std::nullopt;
+        m_asked = theirs;
+        SaveResult result;
+        result.eReason = Reason::Conflict;
+        result.conflict = SchemeConflict{made.iForeign, made.iBoth};
+        return result;
+    };
+    SaveResult result = Run(plan, origin, progress, true);
+    if (result.eReason != Reason::Conflict)
+        m_asked.reset();
+    // Those that were kept earlier are not news.
+    if (result.eReason == Reason::None && answer)
+        result.iKept = m_base.stale.size();
+    return result;
+}
+
+SaveResult StoredSchemes::Replace(const AlarmInfoMap& schemes,
+                                  const std::optional<QList<AlarmSourceKey>>& remove,
+                                  const SaveOrigin& origin, SaveProgress& progress)
+{
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+        made = PlanReplacement(theirs, schemes, remove ? *remove : theirs.keys());
+        return std::nullopt;
+    };
+    return Run(plan, origin, progress, false);
+}
+
+SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SaveProgress& progress)
+{
+    QList<AlarmSourceKey> changedSince;
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+        const std::optional<SchemeHistoryChanges> changes = m_history.Changes(iEntry);
+        if (!changes) {
+            SaveResult result;
+            result.eReason = Reason::NoHistory;
+            result.strTechnical = m_history.Failure();
+            return result;
+        }
+        AlarmInfoMap back;
+        QList<AlarmSourceKey> remove;
+        changedSince.clear();
+        for (const SchemeHistoryChange& change : *changes) {
+            const auto now = theirs.constFind(change.key);
+            const bool asLeft =
+                change.after ? now != theirs.cend() && *now == *change.after : now == theirs.cend();
+            if (!asLeft)
+                changedSince.append(change.key);
+            else if (change.before)
+                back.insert(change.key, *change.before);
+            else
+                remove.append(change.key);
+        }
+        made = PlanReplacement(theirs, back, remove);
+        return std::nullopt;
+    };
+    SaveResult result = Run(plan, origin, progress, false);
+    result.changedSince = changedSince;
+    return result;
+}
+
+SaveResult StoredSchemes::Run(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress,
+                              bool bEditors)
+{
+    SaveResult result = RunOnce(makePlan, origin, progress, bEditors);
+    const auto mayLieWithHistory = [this](Reason eReason) {
+        return m_history.HasFailed() || eReason == Reason::DiskFull || eReason == Reason::ReadOnly ||
+               eReason == Reason::Damaged || eReason == Reason::NotOpen || eReason == Reason::Other;
+    };
+    QString historyFailure = m_history.Failure();
+    if (result.eReason != Reason::None && m_history.IsKept() && mayLieWithHistory(result.eReason)) {
+        // The schemes come first: once more, without the history.
+        if (historyFailure.isEmpty())
+            historyFailure = result.strTechnical;
+        m_bHistoryGivenUp = true;
+        m_history.Stop();
+        result = RunOnce(makePlan, origin, progress, bEditors);
+    }
+    result.strHistoryFailure = historyFailure;
+    return result;
+}
+
+SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress,
+                                  bool bEditors)
 {
     progress.iWritten = 0;
     progress.iSchemes = 0;
     m_connection.AllowWaiting(m_busyTimeOut);
     // What kept the opening from writing may be gone by now.
     if (!IsOpen() || m_connection.OpeningFailure()) {
-        m_connection.Open();
+        Open();
         m_version.reset();
     }
     if (!IsOpen())
@@ -85,9 +210,8 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
     AlarmInfoMap read;
     SavePlan plan;
     std::optional<qint64> version;
-    AlarmInfoMap written;
+    std::optional<AlarmInfoMap> written;
     bool isRead = false;
-    bool reread = false;
     bool saved = false;
     {
         SaveTransaction transaction(store);
@@ -98,48 +222,74 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
             if (isRead)
                 store.ReadAll(&read);
         }
+        const AlarmInfoMap& theirs = isRead ? read : m_base.held;
+        if (transaction.IsAlive())
+            m_history.CatchUp(theirs);
         if (transaction.IsAlive()) {
-            const AlarmInfoMap& theirs = isRead ? read : m_base.held;
-            const bool agreed = answer && m_asked && *m_asked == theirs;
-            const bool over = agreed && *answer == SchemeConflictAnswer::SaveOver;
-            plan = PlanSave(m_base, theirs, map, over ? SaveRule::Everything : SaveRule::OwnChanges);
-            if (plan.bAsk && !agreed) {
-                m_asked = theirs;
-                SaveResult result;
-                result.eReason = Reason::Conflict;
-                result.conflict = SchemeConflict{plan.iForeign, plan.iBoth};
-                return result;
-            }
+            if (const std::optional<SaveResult> end = makePlan(theirs, plan))
+                return *end;
             progress.iSchemes = plan.Schemes();
             if (Write(plan, transaction, progress)) {
-                reread = IsUncertain(plan);
-                if (reread)
-                    store.ReadAll(&written);
+                if (IsUncertain(plan))
+                    store.ReadAll(&written.emplace());
+                Note(plan, theirs, written, origin);
                 saved = transaction.Commit();
             }
         }
     }
-    m_asked.reset();
     // A connection that could not even roll back does so by being closed.
     const bool stuck = sqlite3_get_autocommit(store.GetHandle()) == 0;
     const std::optional<AlarmSchemeStatementFailure> failure = store.TakeFirstFailure();
-    if (stuck)
+    if (stuck) {
+        m_history.Forget();
         m_connection.Close();
+    }
     if (!saved) {
         m_version.reset(); // whatever the file holds now, it is looked at by the next save
         return FailureOf(failure, Reason::Other);
     }
-    if (isRead)
-        m_base.held = std::move(read);
-    m_version = version;
-    Take(plan);
-    if (reread)
-        m_base.held = std::move(written);
+    if (bEditors) {
+        if (isRead)
+            m_base.held = std::move(read);
+        m_version = version;
+        Take(plan);
+        if (written)
+            m_base.held = std::move(*written);
+    } else {
+        m_version.reset();
+    }
     SaveResult result;
     result.iSchemes = plan.Schemes();
-    // Those that were kept earlier are not news.
-    result.iKept = answer ? plan.stale.size() : 0;
     return result;
+}
+
+void StoredSchemes::Note(const SavePlan& plan, const AlarmInfoMap& theirs,
+                         const std::optional<AlarmInfoMap>& written, const SaveOrigin& origin)
+{
+    if (!m_history.IsKept())
+        return;
+    SchemeHistoryEntry entry;
+    entry.eKind = origin.eKind;
+    entry.strWho = origin.strWho;
+    entry.strNote = origin.strNote;
+    m_history.Note(entry, written ? SchemeHistoryBetween(theirs, *written) : ChangesOf(plan, theirs));
+}
+
+void StoredSchemes::CatchUpHistory()
+{
+    if (!IsOpen() || !m_history.IsKept() || !m_version)
+        return;
+    // Not waiting: what cannot be noted now is noted by the next save.
+    m_connection.AllowWaiting(std::chrono::milliseconds(0));
+    sqlite3* const database = m_connection.Store()->GetHandle();
+    const auto run = [database](const char* szSql) {
+        return sqlite3_exec(database, szSql, nullptr, nullptr, nullptr) == SQLITE_OK;
+    };
+    if (!run("begin immediate"))
+        return;
+    const bool caughtUp = DataVersion() == m_version && m_history.CatchUp(m_base.held);
+    if (!caughtUp || !run("commit"))
+        run("rollback");
 }
 
 bool StoredSchemes::Write(const SavePlan& plan, const SaveTransaction& transaction, SaveProgress& progress)
@@ -147,6 +297,8 @@ bool StoredSchemes::Write(const SavePlan& plan, const SaveTransaction& transacti
     AlarmSchemeDatabaseParser& store = *m_connection.Store();
     if (plan.bDisable)
         store.DisableAllSchemesBut(plan.remaining);
+    if (!plan.removed.isEmpty())
+        store.DeleteSchemes(plan.removed);
     const auto goOn = [&transaction, &progress] {
         ++progress.iWritten;
         return transaction.IsAlive();

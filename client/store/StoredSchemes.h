@@ -2,16 +2,27 @@
 
 #include "client/store/SchemeChanges.h"
 #include "client/store/SchemeConflict.h"
+#include "client/store/SchemeHistoryKeeper.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "client/store/StoreConnection.h"
 
+#include <QList>
 #include <QString>
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <optional>
 
 class SaveTransaction;
+
+/// Who has schemes written, and why, for the history.
+struct SaveOrigin
+{
+    QString strWho;
+    SchemeHistoryKind eKind = SchemeHistoryKind::Save;
+    QString strNote; ///< what is imported or taken back
+};
 
 /// How far a save has come; written by the saving thread, read by any other.
 struct SaveProgress
@@ -27,7 +38,10 @@ struct SaveResult
     int iSchemes = 0; ///< written
     int iKept = 0;    ///< left as another program has stored them
     QString strTechnical;
-    SchemeConflict conflict; ///< with the reason Conflict
+    SchemeConflict conflict;   ///< with the reason Conflict
+    QString strHistoryFailure; ///< why the history does not tell of it, in SQLite's words; empty when it does
+    /// Schemes that were left alone by taking a step back, since they have changed after it.
+    QList<AlarmSourceKey> changedSince;
 };
 
 /// How one load ended, before it is put into words.
@@ -46,7 +60,8 @@ public:
     /// So many changed schemes are saved part by part; more are handed to the store together.
     static constexpr int FewSchemes = 50;
 
-    explicit StoredSchemes(std::chrono::milliseconds busyTimeOut);
+    /// Of the file in the database directory, or of the one that is named by its absolute path.
+    explicit StoredSchemes(std::chrono::milliseconds busyTimeOut, const QString& strFile = QString());
     StoredSchemes(const StoredSchemes&) = delete;
     StoredSchemes& operator=(const StoredSchemes&) = delete;
 
@@ -60,9 +75,32 @@ public:
     /// question, a save that meets foreign changes ends with the reason Conflict. Of the answers only
     /// SaveOver and KeepOthers save.
     SaveResult Save(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer,
-                    SaveProgress& progress);
+                    const SaveOrigin& origin, SaveProgress& progress);
+
+    /// The file comes to hold exactly these schemes under their keys, and none under the keys to remove or,
+    /// without such a list, under any other. Needs no load. For editors this is another program's change.
+    SaveResult Replace(const AlarmInfoMap& schemes, const std::optional<QList<AlarmSourceKey>>& remove,
+                       const SaveOrigin& origin, SaveProgress& progress);
+
+    /// Takes one step of the history back: what it has changed becomes what it was before, but for schemes
+    /// that have changed since. For editors this is another program's change. NoHistory when the history does
+    /// not tell what that step was.
+    SaveResult Revert(qint64 iEntry, const SaveOrigin& origin, SaveProgress& progress);
+
+    /// Lets the history know what has changed outside, as far as that can be told now. After a load.
+    void CatchUpHistory();
+    void KeepHistoryFor(int iDays) { m_history.KeepFor(iDays); }
 
 private:
+    /// Makes the plan from what the file holds; a result is the end, and nothing is written.
+    using Planner = std::function<std::optional<SaveResult>(const AlarmInfoMap& theirs, SavePlan& plan)>;
+
+    void Open();
+    SaveResult Run(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress, bool bEditors);
+    SaveResult RunOnce(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress,
+                       bool bEditors);
+    void Note(const SavePlan& plan, const AlarmInfoMap& theirs, const std::optional<AlarmInfoMap>& written,
+              const SaveOrigin& origin);
     static SaveResult FailureOf(const std::optional<AlarmSchemeStatementFailure>& failure,
                                 SchemeStoreOutcome::Reason eWithout);
     std::optional<qint64> DataVersion() const;
@@ -72,6 +110,8 @@ private:
 
     std::chrono::milliseconds m_busyTimeOut;
     StoreConnection m_connection;
+    SchemeHistoryKeeper m_history; ///< through the connection
+    bool m_bHistoryGivenUp = false;
     SchemeBase m_base;
     /// SQLite's mark of the content that m_base holds; nothing when that has to be read again.
     std::optional<qint64> m_version;
