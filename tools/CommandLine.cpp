@@ -1,6 +1,11 @@
 #include "tools/CommandLine.h"
 
+#include "tools/CheckCommand.h"
+#include "tools/ExplainCommand.h"
+#include "tools/ListCommand.h"
 #include "tools/MakeSiteCommand.h"
+#include "tools/ShowCommand.h"
+#include "tools/WhoSwitchesCommand.h"
 
 #include <QTextStream>
 
@@ -8,6 +13,11 @@
 
 CommandLine::CommandLine()
 {
+    m_commands.push_back(std::make_unique<ListCommand>());
+    m_commands.push_back(std::make_unique<ShowCommand>());
+    m_commands.push_back(std::make_unique<ExplainCommand>());
+    m_commands.push_back(std::make_unique<WhoSwitchesCommand>());
+    m_commands.push_back(std::make_unique<CheckCommand>());
     m_commands.push_back(std::make_unique<MakeSiteCommand>());
 }
 

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTextCodec>
 
 namespace {
 
@@ -23,10 +22,10 @@ QString WithoutComment(const QString& strLine)
 
 std::optional<SilencedFindings> SilencedFindings::Parse(const QByteArray& text, QString& strProblem)
 {
-    QTextCodec::ConverterState state;
-    const QString strText =
-        QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
+    const QByteArray mark = QByteArrayLiteral("\xEF\xBB\xBF");
+    const QByteArray bare = text.startsWith(mark) ? text.mid(mark.size()) : text;
+    const QString strText = QString::fromUtf8(bare);
+    if (strText.toUtf8() != bare) {
         strProblem = tr("The text is not in UTF-8.");
         return std::nullopt;
     }

@@ -1,0 +1,105 @@
+#include "tools/ShowCommand.h"
+
+#include "tools/SchemeInput.h"
+#include "tools/SchemeText.h"
+
+#include <QLocale>
+#include <QTextStream>
+
+#include <optional>
+
+QString ShowCommand::Name() const
+{
+    return QStringLiteral("show");
+}
+
+QString ShowCommand::Description() const
+{
+    return tr("Shows everything that is set in a scheme.");
+}
+
+int ShowCommand::Run(const QStringList& arguments, CommandEnvironment& environment)
+{
+    const QString source = QStringLiteral("source");
+    const QString event = QStringLiteral("event");
+    CommandOptions options(Description(), tr("--source S --event TYPE [options]"));
+    SchemeInput::AddSourceAndEvent(options);
+    SchemeInput::AddInput(options);
+    if (const std::optional<int> code = options.Parse(arguments, environment))
+        return *code;
+    for (const QString& strName : {source, event}) {
+        if (!options.IsSet(strName))
+            return CommandOptions::WrongUse(environment, tr("--%1 is missing.").arg(strName));
+    }
+    SchemeInput input;
+    if (const std::optional<int> code = input.Read(options, environment))
+        return *code;
+    const std::optional<QString> strSource = input.Source(options.Value(source), environment);
+    if (!strSource)
+        return ExitCode::WrongUse;
+    const std::optional<int32_t> type = input.Event(options.Value(event), environment);
+    if (!type)
+        return ExitCode::WrongUse;
+
+    const std::optional<AlarmSourceKey> key = EventSource::SchemeKey(*strSource, *type);
+    const auto scheme = key ? input.schemes.constFind(*key) : input.schemes.constEnd();
+    if (scheme == input.schemes.constEnd()) {
+        environment.err
+            << tr("There is no scheme for %1.").arg(SchemeText::Name({*strSource, *type}, input.site))
+            << '\n';
+        return ExitCode::Finding;
+    }
+    Write(scheme.key(), scheme.value(), input.site, environment.out);
+    return ExitCode::Done;
+}
+
+void ShowCommand::Write(const AlarmSourceKey& key, const AlarmInfo& info, const SiteIndex& site,
+                        QTextStream& out)
+{
+    const auto yesNo = [](bool bYes) { return bYes ? tr("yes") : tr("no"); };
+    out << SchemeText::Name(key, site) << '\n'
+        << tr("Key: %1, event type %2").arg(key.strEventSource, QString::number(key.AlarmType)) << '\n'
+        << tr("Switched on: %1").arg(yesNo(info.bOpen)) << '\n'
+        << tr("Sound: %1").arg(yesNo(info.bOpenSound)) << '\n'
+        << tr("Twinkle on the e-map: %1").arg(yesNo(info.bEmapTwinkle)) << '\n'
+        << tr("Mail: %1").arg(yesNo(info.bSendEmail)) << '\n';
+    out << (info.listAlarmOut.isEmpty() ? tr("Outputs: none") : tr("Outputs:")) << '\n';
+    for (const AlarmLinkAlarmOut& link : info.listAlarmOut) {
+        const QString strHow = link.bAutoOpen ? tr("%1 (%2): switched on for %3 s")
+                                              : tr("%1 (%2): not switched on by itself, for %3 s otherwise");
+        out << "  "
+            << strHow.arg(site.NameOfOutput(link.strLinkAlarmID), link.strLinkAlarmID,
+                          QString::number(link.Time))
+            << '\n';
+    }
+    out << (info.listDoor.isEmpty() ? tr("Doors: none") : tr("Doors:")) << '\n';
+    for (const AlarmLinkDoor& link : info.listDoor) {
+        const QString strHow = link.bAlwaysOpen ? tr("%1 (%2): kept open") : tr("%1 (%2): opened");
+        out << "  " << strHow.arg(site.NameOfDoor(link.strDoorID), link.strDoorID) << '\n';
+    }
+    const AlarmVideoSplit& split = info.videoSplit;
+    out << (split.videoLinks.isEmpty() ? tr("Video: none") : tr("Video:")) << '\n';
+    for (auto link = split.videoLinks.begin(); link != split.videoLinks.end(); ++link) {
+        out << "  "
+            << tr("Window %1: %2 (%3), shown: %4, recorded: %5, preset %6, stream %7, %8 s")
+                   .arg(QString::number(link.key()), site.NameOfSource(link->strLinkDevID),
+                        link->strLinkDevID, yesNo(link->bOpen), yesNo(link->bRecord),
+                        QString::number(link->Preposition), QString::number(link->StreamType),
+                        QString::number(link->Time))
+            << '\n';
+    }
+    out << tr("Video windows: %1 rows, %2 columns, %3 used")
+               .arg(split.SplitRow)
+               .arg(split.SplitCloum)
+               .arg(split.SplitCount)
+        << '\n'
+        << tr("Defence time:") << '\n';
+    // The locale counts Monday as 1 and Sunday as 7.
+    for (int day = 0; day < AlarmWeek::DayCount; ++day) {
+        out << "  "
+            << tr("%1: %2", "day of the week, regions")
+                   .arg(QLocale().standaloneDayName(day == 0 ? 7 : day),
+                        SchemeText::Day(info.defenceTime[day]))
+            << '\n';
+    }
+}
