@@ -24,7 +24,12 @@ SchemeStoreOutcome OutcomeOf(const SaveResult& result)
 {
     if (result.eReason != Reason::None)
         return SchemeStoreOutcome::Failure(Operation::Save, result.eReason, result.strTechnical);
-    return SchemeStoreOutcome::Saved(result.iSchemes, result.iKept);
+    SchemeStoreOutcome outcome =
+        result.bReverted ? SchemeStoreOutcome::Reverted(result.iSchemes, result.changedSince.size())
+                         : SchemeStoreOutcome::Saved(result.iSchemes, result.iKept);
+    if (!result.strHistoryFailure.isEmpty())
+        outcome.AddHistoryFailure(result.strHistoryFailure);
+    return outcome;
 }
 
 } // namespace
@@ -74,9 +79,19 @@ void AlarmSchemeStoreBackend::SetReloadHandler(ReloadHandler handler)
     m_reloadHandler = std::move(handler);
 }
 
+void AlarmSchemeStoreBackend::SetAuthor(Author author)
+{
+    m_author = std::move(author);
+}
+
+void AlarmSchemeStoreBackend::SetHistoryDays(int iDays)
+{
+    OnWorker([this, iDays] { m_schemes->KeepHistoryFor(iDays); });
+}
+
 bool AlarmSchemeStoreBackend::IsSaving() const
 {
-    return m_eState != State::Idle || m_queued;
+    return m_eState != State::Idle || m_queued || !m_reverts.isEmpty();
 }
 
 int AlarmSchemeStoreBackend::SchemesWritten() const
@@ -91,7 +106,7 @@ int AlarmSchemeStoreBackend::SchemesToWrite() const
 
 void AlarmSchemeStoreBackend::WaitForSaves()
 {
-    while (m_eState == State::Writing || (m_eState == State::Idle && m_queued)) {
+    while (m_eState == State::Writing || (m_eState == State::Idle && IsSaving())) {
         if (m_eState == State::Idle) {
             StartNext();
             continue;
@@ -115,6 +130,9 @@ int AlarmSchemeStoreBackend::Load(AlarmInfoMap& map)
         m_strPath = m_schemes->GetPath();
     });
     m_lastLoad = OutcomeOf(result, map.size());
+    // Nobody waits for this.
+    QMetaObject::invokeMethod(
+        &m_worker, [this] { m_schemes->CatchUpHistory(); }, Qt::QueuedConnection);
     return Report(m_lastLoad);
 }
 
@@ -132,13 +150,24 @@ int AlarmSchemeStoreBackend::Save(const AlarmInfoMap& map)
     return 0;
 }
 
-void AlarmSchemeStoreBackend::Start(const AlarmInfoMap& map,
-                                    const std::optional<SchemeConflictAnswer>& answer)
+int AlarmSchemeStoreBackend::Revert(qint64 iEntry, const QString& strNote)
+{
+    if (!m_lastLoad.IsSuccess())
+        return Report(SchemeStoreOutcome::RefusedSave(m_lastLoad));
+    m_reverts.append({iEntry, strNote});
+    if (m_eState == State::Idle) {
+        StartNext();
+        TellSaving(true);
+    }
+    return 0;
+}
+
+template <typename Work>
+void AlarmSchemeStoreBackend::Begin(Work&& work)
 {
     m_eState = State::Writing;
-    m_current = map;
-    const auto write = [this, map, answer, progress = m_progress] {
-        const SaveResult result = m_schemes->Save(map, answer, *progress);
+    const auto write = [this, work = std::forward<Work>(work)] {
+        const SaveResult result = work();
         // The object stands: it ends only after this thread has.
         QMetaObject::invokeMethod(
             this,
@@ -150,6 +179,24 @@ void AlarmSchemeStoreBackend::Start(const AlarmInfoMap& map,
     QMetaObject::invokeMethod(&m_worker, write, Qt::QueuedConnection);
 }
 
+void AlarmSchemeStoreBackend::Start(const AlarmInfoMap& map,
+                                    const std::optional<SchemeConflictAnswer>& answer)
+{
+    m_current = map;
+    const SaveOrigin origin{m_author ? m_author() : QString(), SchemeHistoryKind::Save, QString()};
+    Begin([this, map, answer, origin, progress = m_progress] {
+        return m_schemes->Save(map, answer, origin, *progress);
+    });
+}
+
+void AlarmSchemeStoreBackend::StartRevert(const RevertWish& wish)
+{
+    const SaveOrigin origin{m_author ? m_author() : QString(), SchemeHistoryKind::Revert, wish.strNote};
+    Begin([this, entry = wish.iEntry, origin, progress = m_progress] {
+        return m_schemes->Revert(entry, origin, *progress);
+    });
+}
+
 void AlarmSchemeStoreBackend::OnSaved(const SaveResult& result, bool bOpen, const QString& strPath)
 {
     m_bOpen = bOpen;
@@ -158,7 +205,12 @@ void AlarmSchemeStoreBackend::OnSaved(const SaveResult& result, bool bOpen, cons
         OnConflict(result.conflict);
         return;
     }
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    const bool reload = result.bReverted && result.iSchemes > 0 && !m_bLoading && !m_bEnding;
+    const ReloadHandler reloadHandler = reload ? m_reloadHandler : ReloadHandler();
     End(OutcomeOf(result));
+    if (reloadHandler && !self.isNull())
+        reloadHandler();
 }
 
 void AlarmSchemeStoreBackend::OnConflict(const SchemeConflict& conflict)
@@ -213,7 +265,10 @@ SchemeConflictAnswer AlarmSchemeStoreBackend::Ask(const SchemeConflict& conflict
 void AlarmSchemeStoreBackend::StartNext()
 {
     if (!m_queued) {
-        TellSaving(false);
+        if (m_reverts.isEmpty())
+            TellSaving(false);
+        else
+            StartRevert(m_reverts.takeFirst());
         return;
     }
     const AlarmInfoMap next = *m_queued;

@@ -4,6 +4,7 @@
 #include "client/store/SchemeStoreOutcome.h"
 #include "platform/SystemLibrary/AlarmSchemeManager.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QThread>
@@ -41,6 +42,7 @@ public:
     using OutcomeHandler = std::function<void(const SchemeStoreOutcome&)>;
     using ConflictHandler = std::function<SchemeConflictAnswer(const SchemeConflict&)>;
     using ReloadHandler = std::function<void()>;
+    using Author = std::function<QString()>;
 
     AlarmSchemeStoreBackend();
     /// Waits until everything is written that Save has taken. Without asking: a save that would have to ask
@@ -64,6 +66,17 @@ public:
     /// Is called when the answer was to load the schemes anew; has to see to it that Load is called.
     void SetReloadHandler(ReloadHandler handler);
 
+    /// Tells who saves, for the history; asked when a map is taken. Nobody without one.
+    void SetAuthor(Author author);
+    /// How long the history keeps its steps, in days.
+    void SetHistoryDays(int iDays);
+
+    /// Takes one step of the history back, after the saves before it; -1 when saving is refused. The outcome
+    /// follows as that of a save does; a success is followed by the reload handler, since what was loaded
+    /// before is no longer what is stored. Schemes that have changed since that step stay as they are; the
+    /// outcome names how many.
+    int Revert(qint64 iEntry, const QString& strNote);
+
     /// How the last load or save ended; before the first one a load that is still to come (NotLoaded).
     const SchemeStoreOutcome& LastOutcome() const { return m_last; }
 
@@ -79,6 +92,12 @@ Q_SIGNALS:
     void SignalSavingChanged(bool bSaving);
 
 private:
+    struct RevertWish
+    {
+        qint64 iEntry = 0;
+        QString strNote;
+    };
+
     enum class State
     {
         Idle,
@@ -88,7 +107,10 @@ private:
 
     template <typename Work>
     void OnWorker(Work&& work);
+    template <typename Work>
+    void Begin(Work&& work);
     void Start(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer);
+    void StartRevert(const RevertWish& wish);
     void OnSaved(const SaveResult& result, bool bOpen, const QString& strPath);
     void OnConflict(const SchemeConflict& conflict);
     SchemeConflictAnswer Ask(const SchemeConflict& conflict);
@@ -109,6 +131,7 @@ private:
     int m_iLoads = 0;
     AlarmInfoMap m_current;               ///< being written, or asked about
     std::optional<AlarmInfoMap> m_queued; ///< to be written next
+    QList<RevertWish> m_reverts;          ///< to be done after that
 
     bool m_bOpen = false;
     QString m_strPath;
@@ -117,4 +140,5 @@ private:
     OutcomeHandler m_handler;
     ConflictHandler m_conflictHandler;
     ReloadHandler m_reloadHandler;
+    Author m_author;
 };

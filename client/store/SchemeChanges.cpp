@@ -209,3 +209,23 @@ SavePlan PlanSave(const SchemeBase& base, const AlarmInfoMap& theirs, const Alar
         planner.Add(key, held, stored, mineAt.Take(key));
     }
 }
+
+SavePlan PlanReplacement(const AlarmInfoMap& theirs, const AlarmInfoMap& schemes,
+                         const QList<AlarmSourceKey>& remove)
+{
+    SavePlan plan;
+    const AlarmInfoMap wanted = WithStoredKeys(schemes);
+    for (auto scheme = wanted.cbegin(); scheme != wanted.cend(); ++scheme) {
+        const AlarmInfo stored = AsStored(*scheme);
+        const auto at = theirs.constFind(scheme.key());
+        const unsigned parts =
+            at == theirs.cend() ? unsigned(SchemeParts::All) : SchemeParts::ToSave(*at, stored);
+        if (parts != 0)
+            plan.changes.append({scheme.key(), parts, *scheme, stored});
+    }
+    for (const AlarmSourceKey& key : remove) {
+        if (theirs.contains(key) && !wanted.contains(key))
+            plan.removed.append(key);
+    }
+    return plan;
+}

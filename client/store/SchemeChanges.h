@@ -54,6 +54,9 @@ struct SavePlan
     };
     QList<Change> changes;
 
+    /// Stored schemes that are deleted.
+    QList<AlarmSourceKey> removed;
+
     /// Stored schemes that are left out have to be disabled, all but these.
     bool bDisable = false;
     AlarmInfoMap remaining;
@@ -67,8 +70,8 @@ struct SavePlan
     int iBoth = 0;     ///< those of them that the editors have changed too
     bool bAsk = false; ///< whether the operator has not agreed yet to what this save does about them
 
-    bool IsEmpty() const { return changes.isEmpty() && disabled.isEmpty(); }
-    int Schemes() const { return changes.size() + disabled.size(); }
+    bool IsEmpty() const { return changes.isEmpty() && disabled.isEmpty() && removed.isEmpty(); }
+    int Schemes() const { return changes.size() + disabled.size() + removed.size(); }
 };
 
 enum class SaveRule
@@ -81,3 +84,8 @@ enum class SaveRule
 /// editors do not have counts as disabled by them. Pure; any thread.
 SavePlan PlanSave(const SchemeBase& base, const AlarmInfoMap& theirs, const AlarmInfoMap& mine,
                   SaveRule eRule);
+
+/// How the file, which holds `theirs`, comes to hold exactly these schemes under their keys and none under
+/// the keys to remove; all others stay. Pure; any thread.
+SavePlan PlanReplacement(const AlarmInfoMap& theirs, const AlarmInfoMap& schemes,
+                         const QList<AlarmSourceKey>& remove);

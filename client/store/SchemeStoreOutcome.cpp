@@ -65,6 +65,25 @@ SchemeStoreOutcome SchemeStoreOutcome::Saved(int iSchemes, int iKept)
     return outcome;
 }
 
+SchemeStoreOutcome SchemeStoreOutcome::Reverted(int iSchemes, int iChangedSince)
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = Operation::Save;
+    outcome.iSchemes = iSchemes;
+    outcome.strWhat = tr("%n scheme(s) taken back.", nullptr, iSchemes);
+    if (iChangedSince > 0)
+        outcome.strNext =
+            tr("%n scheme(s) stay as they are, because they have changed since.", nullptr, iChangedSince);
+    return outcome;
+}
+
+void SchemeStoreOutcome::AddHistoryFailure(const QString& strHistoryTechnical)
+{
+    const QString note = tr("The history does not tell of it, because its file cannot be written.");
+    strNext = strNext.isEmpty() ? note : strNext + QLatin1Char(' ') + note;
+    strTechnical = strHistoryTechnical;
+}
+
 SchemeStoreOutcome SchemeStoreOutcome::Failure(Operation eOperation, Reason eReason,
                                                const QString& strTechnical)
 {
@@ -113,6 +132,8 @@ QString SchemeStoreOutcome::ReasonText(Reason eReason)
         return tr("an event source holds a character that cannot be stored.");
     case Reason::Conflict:
         return tr("another program has changed the schemes.");
+    case Reason::NoHistory:
+        return tr("the history does not tell what that step has changed.");
     case Reason::None:
     case Reason::LoadFailed:
     case Reason::Other:

@@ -29,6 +29,7 @@ public:
         LoadFailed, ///< refused to save: the last load failed or was partial
         BadText,    ///< a key holds a character that cannot be stored
         Conflict,   ///< another program has changed the schemes, and the operator chose not to save
+        NoHistory,  ///< the history does not tell what is to be taken back
         Other,      ///< any other failure of a statement
     };
 
@@ -46,6 +47,11 @@ public:
     static SchemeStoreOutcome Success(Operation eOperation, int iSchemes);
     /// A save that wrote so many schemes, perhaps none, and left so many as another program has stored them.
     static SchemeStoreOutcome Saved(int iSchemes, int iKept);
+    /// A step of the history that was taken back: so many schemes written, so many left as they are, since
+    /// they have changed after it.
+    static SchemeStoreOutcome Reverted(int iSchemes, int iChangedSince);
+    /// Says that the history does not tell of this save.
+    void AddHistoryFailure(const QString& strHistoryTechnical);
     static SchemeStoreOutcome Failure(Operation eOperation, Reason eReason, const QString& strTechnical);
     /// A save that is refused because the last load ended as `load`.
     static SchemeStoreOutcome RefusedSave(const SchemeStoreOutcome& load);

@@ -167,6 +167,7 @@ SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SavePr
         return std::nullopt;
     };
     SaveResult result = Run(plan, origin, progress, false);
+    result.bReverted = true;
     result.changedSince = changedSince;
     return result;
 }

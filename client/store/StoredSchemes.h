@@ -40,6 +40,7 @@ struct SaveResult
     QString strTechnical;
     SchemeConflict conflict;   ///< with the reason Conflict
     QString strHistoryFailure; ///< why the history does not tell of it, in SQLite's words; empty when it does
+    bool bReverted = false;    ///< a step was taken back
     /// Schemes that were left alone by taking a step back, since they have changed after it.
     QList<AlarmSourceKey> changedSince;
 };
@@ -62,6 +63,7 @@ public:
 
     /// Of the file in the database directory, or of the one that is named by its absolute path.
     explicit StoredSchemes(std::chrono::milliseconds busyTimeOut, const QString& strFile = QString());
+    ~StoredSchemes();
     StoredSchemes(const StoredSchemes&) = delete;
     StoredSchemes& operator=(const StoredSchemes&) = delete;
 

@@ -1,0 +1,108 @@
+#include "client/store/SchemeHistoryKeeper.h"
+
+#include <QDir>
+#include <QtEndian>
+
+#include <sqlite3.h>
+
+#include <array>
+
+namespace {
+
+// Where the header of a database file counts the transactions that have written it.
+constexpr sqlite3_int64 CounterOffset = 24;
+
+} // namespace
+
+void SchemeHistoryKeeper::Start(sqlite3* pDatabase, const QString& strFolder)
+{
+    Forget();
+    m_pDatabase = pDatabase;
+    m_file.emplace(pDatabase, SchemeHistoryFile::Place::Attached);
+    if (m_file->Attach(QDir(strFolder).filePath(SchemeHistoryFile::FileName())))
+        return;
+    m_strFailure = m_file->LastError();
+    m_file.reset();
+}
+
+void SchemeHistoryKeeper::Stop()
+{
+    if (m_file)
+        m_file->Detach();
+    m_file.reset();
+}
+
+void SchemeHistoryKeeper::Forget()
+{
+    m_file.reset();
+    m_pDatabase = nullptr;
+    m_bFailed = false;
+    m_strFailure.clear();
+}
+
+bool SchemeHistoryKeeper::Fail()
+{
+    m_bFailed = true;
+    m_strFailure = m_file->LastError();
+    return false;
+}
+
+std::optional<quint32> SchemeHistoryKeeper::ReadCounter() const
+{
+    // Through the connection's own file: opening the file beside it would take away the locks on it.
+    sqlite3_file* file = nullptr;
+    std::array<char, sizeof(quint32)> bytes{};
+    if (sqlite3_file_control(m_pDatabase, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
+        file == nullptr || file->pMethods == nullptr ||
+        file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), CounterOffset) != SQLITE_OK)
+        return std::nullopt;
+    return qFromBigEndian<quint32>(bytes.data());
+}
+
+bool SchemeHistoryKeeper::CatchUp(const AlarmInfoMap& held)
+{
+    if (!m_file || m_bFailed)
+        return false;
+    const std::optional<quint32> counter = ReadCounter();
+    if (!counter)
+        return Fail();
+    m_iCounter = *counter;
+    const std::optional<quint32> noted = m_file->SchemeFileCounter();
+    if (noted == counter)
+        return true;
+    if (!NoteOutside(held, !noted) || !m_file->SetSchemeFileCounter(*counter))
+        return Fail();
+    return true;
+}
+
+bool SchemeHistoryKeeper::NoteOutside(const AlarmInfoMap& held, bool bFirst)
+{
+    SchemeHistoryEntry entry;
+    entry.time = QDateTime::currentDateTimeUtc();
+    if (!m_file->DropBefore(entry.time.addDays(-m_iDays)))
+        return false;
+    const std::optional<AlarmInfoMap> state = m_file->State();
+    if (!state)
+        return false;
+    const SchemeHistoryChanges changes = SchemeHistoryBetween(*state, held);
+    entry.eKind = bFirst ? SchemeHistoryKind::Start : SchemeHistoryKind::Outside;
+    return changes.isEmpty() || m_file->Append(entry, changes);
+}
+
+std::optional<SchemeHistoryChanges> SchemeHistoryKeeper::Changes(qint64 iEntry)
+{
+    return m_file ? m_file->Changes(iEntry) : std::nullopt;
+}
+
+bool SchemeHistoryKeeper::Note(SchemeHistoryEntry entry, const SchemeHistoryChanges& changes)
+{
+    if (!m_file || m_bFailed)
+        return false;
+    if (!entry.time.isValid())
+        entry.time = QDateTime::currentDateTimeUtc();
+    // Each transaction that writes a file counts its counter up by one.
+    if (!(changes.isEmpty() || m_file->Append(entry, changes)) ||
+        !m_file->SetSchemeFileCounter(m_iCounter + 1))
+        return Fail();
+    return true;
+}
