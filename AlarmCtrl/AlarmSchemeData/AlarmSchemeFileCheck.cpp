@@ -293,3 +293,23 @@ void AlarmSchemeFileCheck::AddMissingIndexes(sqlite3* pDatabase)
     if (!run("COMMIT"))
         run("ROLLBACK");
 }
+
+bool AlarmSchemeFileCheck::NeedsUpgrade(sqlite3* pDatabase)
+{
+    if (IsNumber(pDatabase, "select count(*) from main.sqlite_master where type = 'table'", 0))
+        return false;
+    const QByteArray ours = "select count(*) from main.sqlite_master where type = 'table' and "
+                            "name collate nocase in (" +
+                            TableList() + ')';
+    return !IsNumber(pDatabase, ours, static_cast<int64_t>(Tables.size())) ||
+           !IsNumber(pDatabase,
+                     "select count(*) from pragma_table_info('AlarmBaseInfo', 'main') "
+                     "where name collate nocase = 'bSendEmail'",
+                     1) ||
+           !IsNumber(pDatabase,
+                     QByteArray("select count(*) from main.BaseInfo where Version = '") +
+                         SchemeStatements::Version + '\'',
+                     1) ||
+           !std::all_of(Indexes.cbegin(), Indexes.cend(),
+                        [pDatabase](const IndexShape& index) { return IsIndexThere(pDatabase, index); });
+}

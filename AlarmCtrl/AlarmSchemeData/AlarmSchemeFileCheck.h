@@ -1,5 +1,7 @@
 #pragma once
 
+#include "alarmschemestore_export.h"
+
 #include <optional>
 
 struct sqlite3;
@@ -29,6 +31,11 @@ public:
     /// cannot be written goes on without. One of our name with another definition stays, and the file is not
     /// known then.
     static void AddMissingIndexes(sqlite3* pDatabase);
+
+    /// Whether the store, when it is opened, will add to what is there: a file of an earlier version lacks
+    /// tables, the column of the mail flag or indexes, or says that it is of another version. False without
+    /// any table: such a file is a new one.
+    static ALARMSCHEMESTORE_EXPORT bool NeedsUpgrade(sqlite3* pDatabase);
 
 private:
     std::optional<long long> m_iSchemaVersion; ///< of the schema that was judged last

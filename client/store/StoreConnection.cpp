@@ -1,5 +1,12 @@
 #include "client/store/StoreConnection.h"
 
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeFileCheck.h"
+#include "client/store/DamagedFile.h"
+#include "client/store/DurableJournal.h"
+#include "client/store/FileHealth.h"
+#include "client/store/SchemeBackups.h"
+#include "client/store/SchemeStoreOutcome.h"
+#include "client/store/UncleanEndMarker.h"
 #include "platform/SystemLibrary/SystemPaths.h"
 
 #include <QDir>
@@ -9,6 +16,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -21,28 +29,56 @@ AlarmSchemeStatementFailure LastFailure(sqlite3* pDatabase)
 
 } // namespace
 
+StoreConnection::StoreConnection(const QString& strFile)
+    : m_strFile(strFile)
+{
+}
+
+StoreConnection::~StoreConnection()
+{
+    Close();
+}
+
 void StoreConnection::AllowWaiting(std::chrono::milliseconds time)
 {
     m_deadline = std::chrono::steady_clock::now() + time;
 }
 
+bool StoreConnection::WaitABit() const
+{
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(m_deadline - std::chrono::steady_clock::now());
+    if (left.count() <= 0)
+        return false;
+    QThread::msleep(static_cast<unsigned long>(std::min(left, RetryInterval).count()));
+    return true;
+}
+
 int StoreConnection::OnBusy(void* pSelf, int)
 {
-    const auto* self = static_cast<StoreConnection*>(pSelf);
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(self->m_deadline -
-                                                                            std::chrono::steady_clock::now());
-    if (left.count() <= 0)
-        return 0;
-    QThread::msleep(static_cast<unsigned long>(std::min(left, RetryInterval).count()));
-    return 1;
+    return static_cast<StoreConnection*>(pSelf)->WaitABit() ? 1 : 0;
+}
+
+QString StoreConnection::FilePath() const
+{
+    if (!m_strFile.isEmpty())
+        return m_strFile;
+    const QString directory = QGetDatabaseDirPath();
+    return directory.isEmpty() ? QString() : QGetAbsolutePath(QStringLiteral("AlarmScheme.db"), directory);
 }
 
 void StoreConnection::Open()
 {
     Close();
-    const QString directory = QGetDatabaseDirPath();
-    if (m_strFile.isEmpty() && !directory.isEmpty())
-        QDir().mkpath(directory); // a failure shows in the opening
+    const QString path = FilePath();
+    if (m_strFile.isEmpty() && !path.isEmpty())
+        QDir().mkpath(QGetDatabaseDirPath()); // a failure shows in the opening
+    if (!path.isEmpty()) {
+        DamagedFile::FinishReplacing(path);
+        m_marker = std::make_unique<UncleanEndMarker>(path);
+        if (IsEmptied())
+            m_failure = AlarmSchemeStatementFailure{SQLITE_CORRUPT, QStringLiteral("the file is empty")};
+    }
     m_store = std::make_unique<AlarmSchemeDatabaseParser>(
         [this](sqlite3* pDatabase) { return SetUp(pDatabase); }, m_strFile);
     const std::optional<AlarmSchemeStatementFailure> failure = m_store->TakeFirstFailure();
@@ -57,6 +93,7 @@ void StoreConnection::Open()
 void StoreConnection::Close()
 {
     m_store.reset();
+    m_marker.reset();
     m_failure.reset();
 }
 
@@ -65,12 +102,39 @@ bool StoreConnection::IsOpen() const
     return m_store && m_store->IsOpen();
 }
 
+bool StoreConnection::IsDamaged() const
+{
+    return m_failure && ReasonOfFailure(*m_failure) == SchemeStoreOutcome::Reason::Damaged;
+}
+
 bool StoreConnection::IsMoved() const
 {
     int moved = 0;
     if (IsOpen())
         sqlite3_file_control(m_store->GetHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved != 0;
+}
+
+bool StoreConnection::HasDurableJournal() const
+{
+    return IsOpen() && DurableJournal::IsInUse(m_store->GetHandle(), "main");
+}
+
+bool StoreConnection::IsShared() const
+{
+    return m_marker && m_marker->IsAnybodyElseThere();
+}
+
+StoreConnection::Notices StoreConnection::TakeNotices()
+{
+    return std::exchange(m_notices, Notices());
+}
+
+bool StoreConnection::IsEmptied() const
+{
+    // The client never leaves a file without content where there was one with schemes.
+    const QFileInfo file(FilePath());
+    return file.isFile() && file.size() == 0 && !SchemeBackups(FilePath()).List().isEmpty();
 }
 
 bool StoreConnection::IsBusy(sqlite3* pDatabase, int iCode)
@@ -83,10 +147,18 @@ bool StoreConnection::IsBusy(sqlite3* pDatabase, int iCode)
 
 bool StoreConnection::SetUp(sqlite3* pDatabase)
 {
+    if (m_failure)
+        return false;
     sqlite3_busy_handler(pDatabase, &StoreConnection::OnBusy, this);
     CheckHealth(pDatabase);
     if (m_failure)
         return (m_failure->iCode & 0xFF) == SQLITE_CORRUPT;
+
+    m_failure = DurableJournal::Require(pDatabase, "main", [this] { return WaitABit(); });
+    if (m_failure) {
+        ForbidWriting(pDatabase);
+        return true;
+    }
 
     // The opening writes, but its transaction starts with a read, and a write after a read is refused at
     // once while another process holds the file. So the wait for that process is done here.
@@ -94,44 +166,37 @@ bool StoreConnection::SetUp(sqlite3* pDatabase)
     if (IsBusy(pDatabase, begun))
         return false;
     if (begun == SQLITE_OK) {
-        CheckSize(pDatabase); // nobody extends the file now
+        m_failure = FileHealth::CheckSize(pDatabase); // nobody extends the file now
+        if (!m_failure)
+            BackUpBeforeUpgrade(pDatabase);
         sqlite3_exec(pDatabase, "ROLLBACK", nullptr, nullptr, nullptr);
     }
     if (m_failure)
         ForbidWriting(pDatabase);
+    else if (m_marker)
+        m_marker->FoundSound();
     return true;
 }
 
 void StoreConnection::ForbidWriting(sqlite3* pDatabase)
 {
     sqlite3_exec(pDatabase, "PRAGMA query_only = ON", nullptr, nullptr, nullptr);
-}
-
-void StoreConnection::CheckSize(sqlite3* pDatabase)
-{
-    // SQLite reads a last page that was cut off as if it ended with zeros.
-    const qint64 size = QFileInfo(QString::fromUtf8(sqlite3_db_filename(pDatabase, "main"))).size();
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(pDatabase, "PRAGMA page_size", -1, &statement, nullptr) == SQLITE_OK &&
-        sqlite3_step(statement) == SQLITE_ROW && size % sqlite3_column_int(statement, 0) != 0)
-        m_failure = AlarmSchemeStatementFailure{SQLITE_CORRUPT, QStringLiteral("the file is cut off")};
-    sqlite3_finalize(statement);
+    sqlite3_db_config(pDatabase, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 void StoreConnection::CheckHealth(sqlite3* pDatabase)
 {
-    sqlite3_stmt* statement = nullptr;
-    int result = sqlite3_prepare_v2(pDatabase, "PRAGMA quick_check(1)", -1, &statement, nullptr);
-    if (result == SQLITE_OK)
-        result = sqlite3_step(statement);
-    if (result == SQLITE_ROW) {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 0));
-        if (sqlite3_stricmp(text, "ok") != 0)
-            m_failure = AlarmSchemeStatementFailure{SQLITE_CORRUPT, QString::fromUtf8(text)};
-    } else {
-        m_failure = LastFailure(pDatabase);
-    }
-    sqlite3_finalize(statement);
+    const bool unclean = m_marker && m_marker->IsUnclean();
+    m_failure = FileHealth::Check(pDatabase, unclean ? FileHealth::Depth::Full : FileHealth::Depth::Quick);
     if (m_failure)
         ForbidWriting(pDatabase);
+    else if (unclean)
+        m_notices.iOrphanRows = FileHealth::OrphanRows(pDatabase);
+}
+
+void StoreConnection::BackUpBeforeUpgrade(sqlite3* pDatabase)
+{
+    // An upgrade that does not come about, on a full disk for instance, is tried at every opening.
+    if (AlarmSchemeFileCheck::NeedsUpgrade(pDatabase))
+        m_notices.noBackup = SchemeBackups(FilePath()).MakeUnlessSame(std::chrono::milliseconds(0));
 }
