@@ -20,14 +20,15 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR}/bin)
 set(CPACK_DEBIAN_CLIENT_PACKAGE_NAME acs-client)
 set(CPACK_DEBIAN_CLIENT_PACKAGE_SECTION admin)
 set(CPACK_DEBIAN_CLIENT_PACKAGE_SHLIBDEPS ON)
+# The first line is the summary; CPack indents the rest.
 set(CPACK_COMPONENT_CLIENT_DESCRIPTION "client for configuring the alarm schemes of a site
- An operator says, for every door, access controller and alarm input of a site
- and for every type of event, what happens when the event occurs: whether the
- alarm scheme is on, who is told, which alarm outputs switch on and for how
- long, and in which hours of the week the scheme is armed.
- .
- The package holds the client, its configuration page and acs-scheme, the
- command line for sites and schemes.")
+An operator says, for every door, access controller and alarm input of a site
+and for every type of event, what happens when the event occurs: whether the
+alarm scheme is on, who is told, which alarm outputs switch on and for how
+long, and in which hours of the week the scheme is armed.
+
+The package holds the client, its configuration page and acs-scheme, the
+command line for sites and schemes.")
 if(ACS_QT EQUAL 6)
     set(CPACK_DEBIAN_CLIENT_PACKAGE_RECOMMENDS "fonts-noto-cjk, qt6-translations-l10n")
     set(kit_qt "qt6-base-dev")
@@ -40,9 +41,11 @@ set(CPACK_DEBIAN_KIT_PACKAGE_NAME acs-client-dev)
 set(CPACK_DEBIAN_KIT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_KIT_PACKAGE_DEPENDS "acs-client (= ${PROJECT_VERSION}), ${kit_qt}")
 set(CPACK_COMPONENT_KIT_DESCRIPTION "kit for pages of the alarm scheme client
- Headers of the platform libraries of acs-client and the CMake package
- AlarmSchemePlatform, for building modules that contribute pages to the client.")
+Headers of the platform libraries of acs-client and the CMake package
+AlarmSchemePlatform, for building modules that contribute pages to the client.")
 
+install(FILES ${CMAKE_CURRENT_SOURCE_DIR}/lintian-overrides
+    DESTINATION share/lintian/overrides RENAME acs-client)
 foreach(package client kit)
     string(TOUPPER ${package} upper)
     set(documents share/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
