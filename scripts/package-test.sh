@@ -57,7 +57,8 @@ if [ ! -f "$clean" ]; then
     say "making a clean root ($release)"
     rm -f "$place"/clean-*.tar
     # The same sources as this machine's.
-    mapfile -t known < <(find /etc/apt/sources.list /etc/apt/sources.list.d -type f -size +0 2>/dev/null)
+    mapfile -t known < <(find /etc/apt/sources.list /etc/apt/sources.list.d \( -name '*.list' -o -name '*.sources' \) \
+        -type f -size +0 2>/dev/null)
     "${as_root[@]}" env DEPENDS="$depends" mmdebstrap --quiet --variant=minbase \
         --customize-hook='chroot "$1" apt-get -qq -y --no-install-recommends satisfy "$DEPENDS" >/dev/null' \
         "$release" "$place/unfinished.tar" "${known[@]}"
