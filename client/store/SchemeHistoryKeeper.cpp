@@ -6,6 +6,7 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -40,6 +41,12 @@ void SchemeHistoryKeeper::Forget()
     m_strFailure.clear();
 }
 
+void SchemeHistoryKeeper::TryAgain()
+{
+    if (m_file && std::exchange(m_bFailed, false))
+        m_strFailure.clear();
+}
+
 bool SchemeHistoryKeeper::Fail()
 {
     m_bFailed = true;
@@ -47,30 +54,31 @@ bool SchemeHistoryKeeper::Fail()
     return false;
 }
 
-std::optional<quint32> SchemeHistoryKeeper::ReadCounter() const
+bool SchemeHistoryKeeper::ReadCounter()
 {
+    if (!m_file || m_bFailed)
+        return false;
     // Through the connection's own file: opening the file beside it would take away the locks on it.
     sqlite3_file* file = nullptr;
     std::array<char, sizeof(quint32)> bytes{};
     if (sqlite3_file_control(m_pDatabase, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK ||
         file == nullptr || file->pMethods == nullptr ||
-        file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), CounterOffset) != SQLITE_OK)
-        return std::nullopt;
-    return qFromBigEndian<quint32>(bytes.data());
+        file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), CounterOffset) !=
+            SQLITE_OK) {
+        m_bFailed = true;
+        m_strFailure = QStringLiteral("the counter of the scheme file cannot be read");
+        return false;
+    }
+    m_iCounter = qFromBigEndian<quint32>(bytes.data());
+    return true;
 }
 
-bool SchemeHistoryKeeper::CatchUp(const AlarmInfoMap& held)
+bool SchemeHistoryKeeper::NoteUntilNow(const AlarmInfoMap& held)
 {
-    if (!m_file || m_bFailed)
-        return false;
-    const std::optional<quint32> counter = ReadCounter();
-    if (!counter)
-        return Fail();
-    m_iCounter = *counter;
     const std::optional<quint32> noted = m_file->SchemeFileCounter();
-    if (noted == counter)
+    if (noted == m_iCounter)
         return true;
-    if (!NoteOutside(held, !noted) || !m_file->SetSchemeFileCounter(*counter))
+    if (!NoteOutside(held, !noted) || !m_file->SetSchemeFileCounter(m_iCounter))
         return Fail();
     return true;
 }

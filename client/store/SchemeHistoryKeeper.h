@@ -30,15 +30,23 @@ public:
     /// Steps older than that are dropped when the history is next caught up.
     void KeepFor(int iDays) { m_iDays = iDays; }
 
+    /// Reads how often the scheme file has been written; false when it cannot be told.
+    bool ReadCounter();
     /// Notes what other programs have changed since the last step, so that the history ends with what the
-    /// file holds. Within a transaction that keeps others from writing and has not written schemes yet.
-    bool CatchUp(const AlarmInfoMap& held);
+    /// file held when the counter was read. Within a transaction; of the two files it touches the history's
+    /// only.
+    bool NoteUntilNow(const AlarmInfoMap& held);
+    /// Both, in a transaction that keeps others from writing and has not written schemes yet.
+    bool CatchUp(const AlarmInfoMap& held) { return ReadCounter() && NoteUntilNow(held); }
     /// Notes a step, in the transaction that CatchUp was called in and that writes the schemes. Without
     /// changes the history only learns that the file was written.
     bool Note(SchemeHistoryEntry entry, const SchemeHistoryChanges& changes);
 
     /// What one step has changed; nothing when that cannot be told.
     std::optional<SchemeHistoryChanges> Changes(qint64 iEntry);
+
+    /// Lets a step that could not be noted be; the next one is tried again.
+    void TryAgain();
 
     /// Why the history is not kept, in SQLite's words; empty when it is.
     QString Failure() const { return m_strFailure; }
@@ -47,13 +55,12 @@ public:
 
 private:
     bool Fail();
-    std::optional<quint32> ReadCounter() const;
     bool NoteOutside(const AlarmInfoMap& held, bool bFirst);
 
     sqlite3* m_pDatabase = nullptr;
     std::optional<SchemeHistoryFile> m_file;
     int m_iDays = DefaultDays;
-    quint32 m_iCounter = 0; ///< of the scheme file, at the last CatchUp
+    quint32 m_iCounter = 0; ///< of the scheme file, when it was last read
     bool m_bFailed = false;
     QString m_strFailure;
 };

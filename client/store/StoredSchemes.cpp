@@ -1,7 +1,9 @@
 #include "client/store/StoredSchemes.h"
 
 #include "client/store/AsStored.h"
+#include "client/store/DurableJournal.h"
 #include "client/store/SaveTransaction.h"
+#include "client/store/SchemeBackups.h"
 
 #include <QFileInfo>
 
@@ -79,9 +81,11 @@ LoadResult StoredSchemes::Load(AlarmInfoMap& map)
     const bool again = std::exchange(m_bHistoryGivenUp, false);
     if (again || !IsOpen() || m_connection.OpeningFailure() || m_connection.IsMoved())
         Open();
-    const auto failed = [](const std::optional<AlarmSchemeStatementFailure>& failure, Reason eWithout) {
-        return failure ? LoadResult{ReasonOfFailure(*failure), failure->strMessage}
-                       : LoadResult{eWithout, QString()};
+    const StoreConnection::Notices notices = m_connection.TakeNotices();
+    const auto failed = [&notices](const std::optional<AlarmSchemeStatementFailure>& failure,
+                                   Reason eWithout) {
+        return failure ? LoadResult{ReasonOfFailure(*failure), failure->strMessage, notices}
+                       : LoadResult{eWithout, QString(), notices};
     };
     if (!IsOpen())
         return failed(m_connection.OpeningFailure(), Reason::NotOpen);
@@ -95,12 +99,23 @@ LoadResult StoredSchemes::Load(AlarmInfoMap& map)
     if (status != 0 || store.FailedStatements() != failedBefore)
         return failed(store.TakeFirstFailure(), Reason::Other);
     const auto& opening = m_connection.OpeningFailure();
-    if (opening && ReasonOfFailure(*opening) == Reason::Damaged)
+    if (m_connection.IsDamaged())
         return failed(opening, Reason::Damaged);
     m_base.held = map;
     m_base.held.detach(); // here, rather than at the first edit in the user interface's thread
     m_version = version;
-    return LoadResult();
+    return LoadResult{Reason::None, QString(), notices};
+}
+
+DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage)
+{
+    m_base = SchemeBase();
+    m_version.reset();
+    m_asked.reset();
+    m_history.Forget();
+    const DamageRepairResult result = DamageRepair(m_connection).Repair(eAnswer, damage);
+    Open();
+    return result;
 }
 
 SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer,
@@ -175,13 +190,10 @@ SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SavePr
 SaveResult StoredSchemes::Run(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress,
                               bool bEditors)
 {
+    m_history.TryAgain();
     SaveResult result = RunOnce(makePlan, origin, progress, bEditors);
-    const auto mayLieWithHistory = [this](Reason eReason) {
-        return m_history.HasFailed() || eReason == Reason::DiskFull || eReason == Reason::ReadOnly ||
-               eReason == Reason::Damaged || eReason == Reason::NotOpen || eReason == Reason::Other;
-    };
     QString historyFailure = m_history.Failure();
-    if (result.eReason != Reason::None && m_history.IsKept() && mayLieWithHistory(result.eReason)) {
+    if (result.eReason != Reason::None && m_history.IsKept() && (m_history.HasFailed() || m_bCommitFailed)) {
         // The schemes come first: once more, without the history.
         if (historyFailure.isEmpty())
             historyFailure = result.strTechnical;
@@ -198,15 +210,20 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
 {
     progress.iWritten = 0;
     progress.iSchemes = 0;
+    m_bCommitFailed = false;
     m_connection.AllowWaiting(m_busyTimeOut);
-    // What kept the opening from writing may be gone by now.
-    if (!IsOpen() || m_connection.OpeningFailure()) {
+    // What kept the opening from writing may be gone by now; what it has seen to may have been changed.
+    if (!IsOpen() || m_connection.OpeningFailure() || !m_connection.HasDurableJournal()) {
         Open();
         m_version.reset();
     }
     if (!IsOpen())
         return FailureOf(m_connection.OpeningFailure(), Reason::NotOpen);
+    const auto& opening = m_connection.OpeningFailure();
+    if (opening && opening->iCode == DurableJournal::Refused)
+        return FailureOf(opening, Reason::Journal);
 
+    std::optional<AlarmSchemeStatementFailure> noBackup;
     AlarmSchemeDatabaseParser& store = *m_connection.Store();
     AlarmInfoMap read;
     SavePlan plan;
@@ -230,11 +247,13 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
             if (const std::optional<SaveResult> end = makePlan(theirs, plan))
                 return *end;
             progress.iSchemes = plan.Schemes();
+            noBackup = BackUp(theirs);
             if (Write(plan, transaction, progress)) {
                 if (IsUncertain(plan))
                     store.ReadAll(&written.emplace());
                 Note(plan, theirs, written, origin);
                 saved = transaction.Commit();
+                m_bCommitFailed = !saved;
             }
         }
     }
@@ -247,7 +266,9 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
     }
     if (!saved) {
         m_version.reset(); // whatever the file holds now, it is looked at by the next save
-        return FailureOf(failure, Reason::Other);
+        SaveResult result = FailureOf(failure, Reason::Other);
+        result.noBackup = noBackup;
+        return result;
     }
     if (bEditors) {
         if (isRead)
@@ -261,7 +282,17 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
     }
     SaveResult result;
     result.iSchemes = plan.Schemes();
+    result.noBackup = noBackup;
     return result;
+}
+
+std::optional<AlarmSchemeStatementFailure> StoredSchemes::BackUp(const AlarmInfoMap& theirs) const
+{
+    // Within the transaction that is about to write: others can read the file, and nobody can change it.
+    const SchemeBackups backups(m_connection.FilePath());
+    if (theirs.isEmpty() || !backups.IsDue())
+        return std::nullopt;
+    return backups.Make(std::chrono::milliseconds(0));
 }
 
 void StoredSchemes::Note(const SavePlan& plan, const AlarmInfoMap& theirs,
@@ -280,17 +311,18 @@ void StoredSchemes::CatchUpHistory()
 {
     if (!IsOpen() || !m_history.IsKept() || !m_version)
         return;
-    // Not waiting: what cannot be noted now is noted by the next save.
+    // Not waiting, and without a lock on the scheme file: what cannot be noted now is noted by the next save.
     m_connection.AllowWaiting(std::chrono::milliseconds(0));
+    const bool same = DataVersion() == m_version && m_history.ReadCounter() && DataVersion() == m_version;
+    if (!same)
+        return;
     sqlite3* const database = m_connection.Store()->GetHandle();
     const auto run = [database](const char* szSql) {
         return sqlite3_exec(database, szSql, nullptr, nullptr, nullptr) == SQLITE_OK;
     };
-    if (!run("begin immediate"))
-        return;
-    const bool caughtUp = DataVersion() == m_version && m_history.CatchUp(m_base.held);
-    if (!caughtUp || !run("commit"))
+    if (run("begin") && !(m_history.NoteUntilNow(m_base.held) && run("commit")))
         run("rollback");
+    m_history.TryAgain();
 }
 
 bool StoredSchemes::Write(const SavePlan& plan, const SaveTransaction& transaction, SaveProgress& progress)

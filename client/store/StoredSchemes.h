@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/store/DamageRepair.h"
 #include "client/store/SchemeChanges.h"
 #include "client/store/SchemeConflict.h"
 #include "client/store/SchemeHistoryKeeper.h"
@@ -38,7 +39,9 @@ struct SaveResult
     int iSchemes = 0; ///< written
     int iKept = 0;    ///< left as another program has stored them
     QString strTechnical;
-    SchemeConflict conflict;   ///< with the reason Conflict
+    SchemeConflict conflict; ///< with the reason Conflict
+    /// Why no backup was made of what the file held; nothing when there is one of today.
+    std::optional<AlarmSchemeStatementFailure> noBackup;
     QString strHistoryFailure; ///< why the history does not tell of it, in SQLite's words; empty when it does
     bool bReverted = false;    ///< a step was taken back
     /// Schemes that were left alone by taking a step back, since they have changed after it.
@@ -50,6 +53,7 @@ struct LoadResult
 {
     SchemeStoreOutcome::Reason eReason = SchemeStoreOutcome::Reason::None;
     QString strTechnical;
+    StoreConnection::Notices notices; ///< of the openings until then
 };
 
 /// The database file and what is known of its content. A save writes what differs, all or nothing, and never
@@ -89,6 +93,12 @@ public:
     /// not tell what that step was.
     SaveResult Revert(qint64 iEntry, const SaveOrigin& origin, SaveProgress& progress);
 
+    /// Whether the opening has found the file damaged, and what there is in its stead.
+    bool IsDamaged() const { return m_connection.IsDamaged(); }
+    std::optional<SchemeDamage> Damage() { return DamageRepair(m_connection).Damage(); }
+    /// A load has to follow, whatever comes of it.
+    DamageRepairResult Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage);
+
     /// Lets the history know what has changed outside, as far as that can be told now. After a load.
     void CatchUpHistory();
     void KeepHistoryFor(int iDays) { m_history.KeepFor(iDays); }
@@ -98,6 +108,7 @@ private:
     using Planner = std::function<std::optional<SaveResult>(const AlarmInfoMap& theirs, SavePlan& plan)>;
 
     void Open();
+    std::optional<AlarmSchemeStatementFailure> BackUp(const AlarmInfoMap& theirs) const;
     SaveResult Run(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress, bool bEditors);
     SaveResult RunOnce(const Planner& makePlan, const SaveOrigin& origin, SaveProgress& progress,
                        bool bEditors);
@@ -114,6 +125,7 @@ private:
     StoreConnection m_connection;
     SchemeHistoryKeeper m_history; ///< through the connection
     bool m_bHistoryGivenUp = false;
+    bool m_bCommitFailed = false; ///< by the last attempt to write
     SchemeBase m_base;
     /// SQLite's mark of the content that m_base holds; nothing when that has to be read again.
     std::optional<qint64> m_version;

@@ -6,7 +6,7 @@
 
 #include <sqlite3.h>
 
-/// Collects the tables whose rows are written through connections that are opened during its life.
+/// Collects the tables of the scheme file whose rows are written through connections that are opened during its life.
 class TouchedTables
 {
 public:
@@ -30,8 +30,10 @@ private:
         sqlite3_update_hook(pDatabase, &TouchedTables::OnRow, nullptr);
         return SQLITE_OK;
     }
-    static void OnRow(void*, int, const char*, const char* szTable, sqlite3_int64)
+    static void OnRow(void*, int, const char* szDatabase, const char* szTable, sqlite3_int64)
     {
+        if (qstrcmp(szDatabase, "main") != 0)
+            return; // the history
         const QMutexLocker lock(&s_mutex);
         const QString table = QString::fromUtf8(szTable);
         if (table.compare(QLatin1String("BaseInfo"), Qt::CaseInsensitive) != 0)
