@@ -1,5 +1,6 @@
 #include "client/store/AlarmSchemeStoreBackend.h"
 
+#include "client/store/DamageRepair.h"
 #include "client/store/StoredSchemes.h"
 
 #include <QCoreApplication>
@@ -15,9 +16,27 @@ using Reason = SchemeStoreOutcome::Reason;
 
 SchemeStoreOutcome OutcomeOf(const LoadResult& result, int iSchemes)
 {
-    return result.eReason == Reason::None
-               ? SchemeStoreOutcome::Success(Operation::Load, iSchemes)
-               : SchemeStoreOutcome::Failure(Operation::Load, result.eReason, result.strTechnical);
+    SchemeStoreOutcome outcome =
+        result.eReason == Reason::None
+            ? SchemeStoreOutcome::Success(Operation::Load, iSchemes)
+            : SchemeStoreOutcome::Failure(Operation::Load, result.eReason, result.strTechnical);
+    if (result.notices.iOrphanRows > 0)
+        outcome.AddOrphanRows(result.notices.iOrphanRows);
+    if (result.notices.noBackup)
+        outcome.AddNoBackup(*result.notices.noBackup);
+    return outcome;
+}
+
+SchemeStoreOutcome OutcomeOf(const DamageRepairResult& result, const SchemeDamage& damage,
+                             SchemeDamageAnswer eAnswer)
+{
+    if (result.eReason != Reason::None)
+        return SchemeStoreOutcome::Failure(Operation::Repair, result.eReason, result.strTechnical);
+    if (result.strKeptAs.isEmpty())
+        return SchemeStoreOutcome::NothingToRepair();
+    const bool restored = eAnswer == SchemeDamageAnswer::Restore && damage.backup;
+    return SchemeStoreOutcome::Repaired(result.strKeptAs, restored ? damage.backup->time : QDateTime(),
+                                        restored ? damage.backup->iSchemes : 0);
 }
 
 SchemeStoreOutcome OutcomeOf(const SaveResult& result)
@@ -29,6 +48,8 @@ SchemeStoreOutcome OutcomeOf(const SaveResult& result)
                          : SchemeStoreOutcome::Saved(result.iSchemes, result.iKept);
     if (!result.strHistoryFailure.isEmpty())
         outcome.AddHistoryFailure(result.strHistoryFailure);
+    if (result.noBackup)
+        outcome.AddNoBackup(*result.noBackup);
     return outcome;
 }
 
@@ -46,6 +67,7 @@ AlarmSchemeStoreBackend::AlarmSchemeStoreBackend()
         m_schemes = std::make_unique<StoredSchemes>(std::chrono::milliseconds(BusyTimeOut));
         m_bOpen = m_schemes->IsOpen();
         m_strPath = m_schemes->GetPath();
+        m_bDamaged = m_schemes->IsDamaged();
     });
 }
 
@@ -77,6 +99,12 @@ void AlarmSchemeStoreBackend::SetConflictHandler(ConflictHandler handler)
 void AlarmSchemeStoreBackend::SetReloadHandler(ReloadHandler handler)
 {
     m_reloadHandler = std::move(handler);
+}
+
+void AlarmSchemeStoreBackend::SetDamageHandler(DamageHandler handler)
+{
+    m_damageHandler = std::move(handler);
+    LookAtDamage();
 }
 
 void AlarmSchemeStoreBackend::SetAuthor(Author author)
@@ -128,8 +156,10 @@ int AlarmSchemeStoreBackend::Load(AlarmInfoMap& map)
         result = m_schemes->Load(map);
         m_bOpen = m_schemes->IsOpen();
         m_strPath = m_schemes->GetPath();
+        m_bDamaged = m_schemes->IsDamaged();
     });
     m_lastLoad = OutcomeOf(result, map.size());
+    LookAtDamage();
     // Nobody waits for this.
     QMetaObject::invokeMethod(
         &m_worker, [this] { m_schemes->CatchUpHistory(); }, Qt::QueuedConnection);
@@ -260,6 +290,57 @@ SchemeConflictAnswer AlarmSchemeStoreBackend::Ask(const SchemeConflict& conflict
     const SchemeConflictAnswer answer = ask(conflict);
     // What was loaded during the question is not what the question was about.
     return self.isNull() || loads != m_iLoads ? SchemeConflictAnswer::Cancel : answer;
+}
+
+void AlarmSchemeStoreBackend::LookAtDamage()
+{
+    if (!m_bDamaged || !m_damageHandler || std::exchange(m_bDamageAsked, true))
+        return;
+    // Looking through the backups takes a while, and whoever loads is not to be held up by a question.
+    const auto look = [this] {
+        const std::optional<SchemeDamage> damage = m_schemes->Damage();
+        QMetaObject::invokeMethod(
+            this, [this, damage] { OnDamage(damage); }, Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(&m_worker, look, Qt::QueuedConnection);
+}
+
+void AlarmSchemeStoreBackend::OnDamage(const std::optional<SchemeDamage>& damage)
+{
+    m_bDamageAsked = damage.has_value();
+    if (m_bEnding || !damage || !m_damageHandler)
+        return;
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    const DamageHandler ask = m_damageHandler;
+    const SchemeDamageAnswer answer = ask(*damage);
+    if (self.isNull() || answer == SchemeDamageAnswer::LeaveAlone)
+        return;
+    const auto repair = [this, damage = *damage, answer] {
+        const DamageRepairResult result = m_schemes->Repair(answer, damage);
+        QMetaObject::invokeMethod(
+            this,
+            [this, result, damage, answer, open = m_schemes->IsOpen(), path = m_schemes->GetPath(),
+             damaged = m_schemes->IsDamaged()] {
+                m_bOpen = open;
+                m_strPath = path;
+                m_bDamaged = damaged;
+                OnRepaired(result, damage, answer);
+            },
+            Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(&m_worker, repair, Qt::QueuedConnection);
+}
+
+void AlarmSchemeStoreBackend::OnRepaired(const DamageRepairResult& result, const SchemeDamage& damage,
+                                         SchemeDamageAnswer eAnswer)
+{
+    m_bDamageAsked = false;
+    const QPointer<AlarmSchemeStoreBackend> self(this);
+    const ReloadHandler reload = m_reloadHandler;
+    const SchemeStoreOutcome outcome = OutcomeOf(result, damage, eAnswer);
+    Report(outcome);
+    if (outcome.IsSuccess() && reload && !self.isNull())
+        reload();
 }
 
 void AlarmSchemeStoreBackend::StartNext()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/store/SchemeConflict.h"
+#include "client/store/SchemeDamage.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "platform/SystemLibrary/AlarmSchemeManager.h"
 
@@ -14,6 +15,7 @@
 #include <optional>
 
 class StoredSchemes;
+struct DamageRepairResult;
 struct LoadResult;
 struct SaveProgress;
 struct SaveResult;
@@ -42,6 +44,7 @@ public:
     using OutcomeHandler = std::function<void(const SchemeStoreOutcome&)>;
     using ConflictHandler = std::function<SchemeConflictAnswer(const SchemeConflict&)>;
     using ReloadHandler = std::function<void()>;
+    using DamageHandler = std::function<SchemeDamageAnswer(const SchemeDamage&)>;
     using Author = std::function<QString()>;
 
     AlarmSchemeStoreBackend();
@@ -65,6 +68,11 @@ public:
     void SetConflictHandler(ConflictHandler handler);
     /// Is called when the answer was to load the schemes anew; has to see to it that Load is called.
     void SetReloadHandler(ReloadHandler handler);
+
+    /// Is asked, from the event loop, when the database turns out to be damaged; may run an event loop. Once
+    /// it was answered to leave the file alone there is no second question. The outcome of a repair is told
+    /// as those of loads and saves are, a success is followed by the reload handler.
+    void SetDamageHandler(DamageHandler handler);
 
     /// Tells who saves, for the history; asked when a map is taken. Nobody without one.
     void SetAuthor(Author author);
@@ -116,6 +124,9 @@ private:
     SchemeConflictAnswer Ask(const SchemeConflict& conflict);
     void End(const SchemeStoreOutcome& outcome, bool bSilent = false);
     void StartNext();
+    void LookAtDamage();
+    void OnDamage(const std::optional<SchemeDamage>& damage);
+    void OnRepaired(const DamageRepairResult& result, const SchemeDamage& damage, SchemeDamageAnswer eAnswer);
     void TellSaving(bool bSaving);
     int Report(const SchemeStoreOutcome& outcome);
 
@@ -140,5 +151,8 @@ private:
     OutcomeHandler m_handler;
     ConflictHandler m_conflictHandler;
     ReloadHandler m_reloadHandler;
+    DamageHandler m_damageHandler;
+    bool m_bDamaged = false;     ///< as the last opening has found it
+    bool m_bDamageAsked = false; ///< or the question is on its way
     Author m_author;
 };

@@ -1,6 +1,10 @@
 #include "client/store/SchemeStoreOutcome.h"
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "client/store/DurableJournal.h"
+
+#include <QFileInfo>
+#include <QLocale>
 
 #include <sqlite3.h>
 
@@ -16,6 +20,8 @@ SchemeStoreOutcome::Reason ReasonOfFailure(const AlarmSchemeStatementFailure& fa
     using Reason = SchemeStoreOutcome::Reason;
     if (failure.iCode == AlarmSchemeStatementFailure::TextRefused)
         return Reason::BadText;
+    if (failure.iCode == DurableJournal::Refused)
+        return Reason::Journal;
     if (failure.iCode == SQLITE_READONLY_DBMOVED)
         return Reason::Moved;
     switch (failure.iCode & PrimaryCode) {
@@ -79,9 +85,52 @@ SchemeStoreOutcome SchemeStoreOutcome::Reverted(int iSchemes, int iChangedSince)
 
 void SchemeStoreOutcome::AddHistoryFailure(const QString& strHistoryTechnical)
 {
-    const QString note = tr("The history does not tell of it, because its file cannot be written.");
-    strNext = strNext.isEmpty() ? note : strNext + QLatin1Char(' ') + note;
+    Add(tr("The history does not tell of it, because its file cannot be written."));
     strTechnical = strHistoryTechnical;
+}
+
+void SchemeStoreOutcome::AddNoBackup(const AlarmSchemeStatementFailure& failure)
+{
+    bWarning = true;
+    Add(tr("No backup could be made before: %1").arg(NoBackupText(ReasonOfFailure(failure))));
+    if (strTechnical.isEmpty())
+        strTechnical = failure.strMessage;
+}
+
+void SchemeStoreOutcome::AddOrphanRows(qint64 iRows)
+{
+    bWarning = true;
+    Add(tr("The program did not end properly last time. The scheme database was checked: it is sound, but it "
+           "holds %1 row(s) that belong to no scheme; they are left out.")
+            .arg(iRows));
+}
+
+void SchemeStoreOutcome::Add(const QString& strNote)
+{
+    strNext =
+        strNext.isEmpty() ? strNote : tr("%1 %2", "what happened, what to do next").arg(strNext, strNote);
+}
+
+SchemeStoreOutcome SchemeStoreOutcome::Repaired(const QString& strKeptAs, const QDateTime& backup,
+                                                int iSchemes)
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = Operation::Repair;
+    outcome.iSchemes = iSchemes;
+    outcome.strWhat = backup.isValid()
+                          ? tr("The backup of %1 with %n scheme(s) was restored.", nullptr, iSchemes)
+                                .arg(QLocale().toString(backup, QLocale::ShortFormat))
+                          : tr("The program starts without schemes.");
+    outcome.strNext = tr("The damaged file was kept as %1.").arg(QFileInfo(strKeptAs).fileName());
+    return outcome;
+}
+
+SchemeStoreOutcome SchemeStoreOutcome::NothingToRepair()
+{
+    SchemeStoreOutcome outcome;
+    outcome.eOperation = Operation::Repair;
+    outcome.strWhat = tr("The scheme database is sound again; nothing was changed.");
+    return outcome;
 }
 
 SchemeStoreOutcome SchemeStoreOutcome::Failure(Operation eOperation, Reason eReason,
@@ -92,10 +141,20 @@ SchemeStoreOutcome SchemeStoreOutcome::Failure(Operation eOperation, Reason eRea
     outcome.eReason = eReason;
     outcome.strTechnical = strTechnical;
     const QString reason = ReasonText(eReason);
-    outcome.strWhat = eOperation == Operation::Load
-                          ? tr("The schemes could not be loaded completely: %1").arg(reason)
-                          : tr("Nothing was saved: %1").arg(reason);
-    outcome.strNext = eOperation == Operation::Load ? NextAfterLoad(eReason) : NextAfterSave(eReason);
+    switch (eOperation) {
+    case Operation::Load:
+        outcome.strWhat = tr("The schemes could not be loaded completely: %1").arg(reason);
+        outcome.strNext = NextAfterLoad(eReason);
+        break;
+    case Operation::Save:
+        outcome.strWhat = tr("Nothing was saved: %1").arg(reason);
+        outcome.strNext = NextAfterSave(eReason);
+        break;
+    case Operation::Repair:
+        outcome.strWhat = tr("The damaged scheme database was left as it is: %1").arg(reason);
+        outcome.strNext = NextAfterRepair(eReason);
+        break;
+    }
     return outcome;
 }
 
@@ -134,6 +193,9 @@ QString SchemeStoreOutcome::ReasonText(Reason eReason)
         return tr("another program has changed the schemes.");
     case Reason::NoHistory:
         return tr("the history does not tell what that step has changed.");
+    case Reason::Journal:
+        return tr("another program has switched the scheme database to a journal that is not safe here, and "
+                  "still uses it.");
     case Reason::None:
     case Reason::LoadFailed:
     case Reason::Other:
@@ -142,10 +204,22 @@ QString SchemeStoreOutcome::ReasonText(Reason eReason)
     return tr("the scheme database reported an error.");
 }
 
+QString SchemeStoreOutcome::NoBackupText(Reason eReason)
+{
+    switch (eReason) {
+    case Reason::NotOpen:
+    case Reason::ReadOnly:
+        return tr("the folder for backups cannot be written.");
+    default:
+        return ReasonText(eReason);
+    }
+}
+
 QString SchemeStoreOutcome::NextAfterLoad(Reason eReason)
 {
     switch (eReason) {
     case Reason::Locked:
+    case Reason::Journal:
         return tr("Close the other program, then start this program again.");
     case Reason::NotOpen:
     case Reason::ReadOnly:
@@ -164,6 +238,7 @@ QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
 {
     switch (eReason) {
     case Reason::Locked:
+    case Reason::Journal:
         return tr("Your changes are still here. Close the other program, then save again.");
     case Reason::NotOpen:
     case Reason::ReadOnly:
@@ -178,5 +253,21 @@ QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
         return tr("Your changes are still here. Save again to choose what is kept.");
     default:
         return tr("Your changes are still here. Save again; if it happens again, see the log file.");
+    }
+}
+
+QString SchemeStoreOutcome::NextAfterRepair(Reason eReason)
+{
+    switch (eReason) {
+    case Reason::Locked:
+    case Reason::Journal:
+        return tr("Close the other program, then start this program again.");
+    case Reason::NotOpen:
+    case Reason::ReadOnly:
+        return tr("Check the rights on the database folder, then start this program again.");
+    case Reason::DiskFull:
+        return tr("Free some space, then start this program again.");
+    default:
+        return tr("Start this program again; if it happens again, see the log file.");
     }
 }
