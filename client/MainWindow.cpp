@@ -273,7 +273,11 @@ void MainWindow::ShowSaveOutcome(const SchemeStoreOutcome& outcome)
         CLIENT_LOG(lxl::LogError, "schemes: %s (%s)", qUtf8Printable(outcome.Text()),
                    qUtf8Printable(outcome.strTechnical));
         Note(outcome.Text(), LXMessageNotify::Error);
-    } else if (outcome.eOperation == SchemeStoreOutcome::Operation::Save) {
+    } else if (outcome.bWarning) {
+        CLIENT_LOG(lxl::LogWarning, "schemes: %s (%s)", qUtf8Printable(outcome.Text()),
+                   qUtf8Printable(outcome.strTechnical));
+        Note(outcome.Text(), LXMessageNotify::Warning);
+    } else if (outcome.eOperation != SchemeStoreOutcome::Operation::Load) {
         Note(outcome.Text(), LXMessageNotify::Success);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "client/MainWindow.h"
 #include "client/SchemeConflictDialog.h"
+#include "client/SchemeDamageDialog.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
 #include "platform/LXGUI/LXMessageBox.h"
 #include "platform/LXGUI/LXMessageNotify.h"
@@ -30,6 +31,10 @@ SchemeSaving::SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, Q
         }
     });
     connect(&store, &AlarmSchemeStoreBackend::SignalSavingChanged, this, &SchemeSaving::OnSavingChanged);
+    store.SetDamageHandler([self](const SchemeDamage& damage) {
+        return self.isNull() || self->m_window.isNull() ? SchemeDamageAnswer::LeaveAlone
+                                                        : SchemeDamageDialog::Ask(damage, self->m_window);
+    });
     window.FollowSaves(&store);
     window.SetCloseGuard([self] { return self.isNull() || self->MayClose(); });
 }
