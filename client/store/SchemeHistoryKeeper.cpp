@@ -75,6 +75,8 @@ bool SchemeHistoryKeeper::ReadCounter()
 
 bool SchemeHistoryKeeper::NoteUntilNow(const AlarmInfoMap& held)
 {
+    if (!m_file->DropBefore(QDateTime::currentDateTimeUtc().addDays(-m_iDays)))
+        return Fail();
     const std::optional<quint32> noted = m_file->SchemeFileCounter();
     if (noted == m_iCounter)
         return true;
@@ -87,8 +89,6 @@ bool SchemeHistoryKeeper::NoteOutside(const AlarmInfoMap& held, bool bFirst)
 {
     SchemeHistoryEntry entry;
     entry.time = QDateTime::currentDateTimeUtc();
-    if (!m_file->DropBefore(entry.time.addDays(-m_iDays)))
-        return false;
     const std::optional<AlarmInfoMap> state = m_file->State();
     if (!state)
         return false;

@@ -3,7 +3,7 @@
 
 #include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/client_store/OtherProgram.h"
-#include "tests/client_store/SaveAndWait.h"
+#include "tests/client_store/StoreClient.h"
 #include "tests/client_store/TouchedTables.h"
 
 #include <QElapsedTimer>
@@ -13,6 +13,7 @@
 #include <memory>
 
 using Answer = SchemeConflictAnswer;
+using Client = StoreClient;
 using Reason = SchemeStoreOutcome::Reason;
 
 namespace {
@@ -50,40 +51,6 @@ QSet<QString> Names(std::initializer_list<const char*> names)
         set.insert(QString::fromLatin1(name));
     return set;
 }
-
-/// One client: its store and the schemes that its page shows.
-struct Client
-{
-    AlarmSchemeStoreBackend store;
-    AlarmInfoMap map;
-    QList<SchemeStoreOutcome> saves;
-    QList<SchemeConflict> questions;
-    Answer answer = Answer::Cancel;
-    int iReloads = 0;
-
-    Client()
-    {
-        store.SetOutcomeHandler([this](const SchemeStoreOutcome& outcome) {
-            if (outcome.eOperation == SchemeStoreOutcome::Operation::Save)
-                saves.append(outcome);
-        });
-        store.SetConflictHandler([this](const SchemeConflict& conflict) {
-            questions.append(conflict);
-            return answer;
-        });
-        store.SetReloadHandler([this] {
-            ++iReloads;
-            Load();
-        });
-        Load();
-    }
-    void Load()
-    {
-        if (store.Load(map) != 0)
-            qFatal("the schemes cannot be loaded");
-    }
-    int Save() { return SaveAndWait(store, map); }
-};
 
 AlarmInfoMap Stored()
 {
