@@ -175,7 +175,7 @@ QString PluginLoader::LoadRoot(Plugin& plugin) const
     if (metaData.value(QLatin1String("className")).toString().isEmpty()) {
         return tr("the file is no module (%1)").arg(plugin.library->errorString());
     }
-    const QString strUnfit = WhyUnfit(metaData);
+    QString strUnfit = WhyUnfit(metaData);
     if (!strUnfit.isEmpty()) {
         return strUnfit;
     }
