@@ -4,7 +4,7 @@ SHELL := /bin/bash
 BUILD := build
 JOBS := $(shell nproc)
 
-.PHONY: run test build deps bench pictures check sanitize clang-test qt6-test package-test
+.PHONY: run test build deps bench pictures check sanitize clang-test qt6-test package-test fuzz soak
 
 deps:
 	@./scripts/install-dependencies.sh build
@@ -54,3 +54,16 @@ bench:
 	@cmake --preset bench
 	@cmake --build $(BUILD)/bench --target benchmarks
 	@./scripts/run-benchmarks.sh $(BUILD)
+
+# Each fuzzer for a minute.
+fuzz:
+	@./scripts/install-dependencies.sh fuzz
+	@cmake --preset fuzz
+	@cmake --build --preset fuzz
+	@./scripts/run-fuzzers.sh $(BUILD) 60
+
+# What the suite does a fiftieth of, as a whole; most of an hour.
+soak: build
+	@cmake --preset asan+ubsan
+	@cmake --build $(BUILD)/asan --target tst_store_strange_files
+	@./scripts/soak.sh $(BUILD)

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for a purpose: build, check, bench,
-# instructions, clang, qt6 or package.
+# instructions, clang, qt6, package or fuzz.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev rapidjson-dev
-    fonts-dejavu-core fonts-noto-cjk xauth xvfb)
+packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libcurl4-openssl-dev rapidjson-dev
+    openssl python3-aiosmtpd fonts-dejavu-core fonts-noto-cjk xauth xvfb)
 case "${1:-build}" in
 build) ;;
 check) packages+=(clang clang-format clang-tidy clazy) ;;
@@ -13,8 +13,9 @@ clang) packages+=(clang) ;;
 qt6) packages+=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n libgl-dev) ;;
 package) packages+=(appstream desktop-file-utils fakeroot file lintian mmdebstrap) ;;
 instructions) packages+=(valgrind) ;;
+fuzz) packages+=(clang libclang-rt-14-dev) ;;
 *)
-    echo "usage: $0 build|check|bench|instructions|clang|qt6|package" >&2
+    echo "usage: $0 build|check|bench|instructions|clang|qt6|package|fuzz" >&2
     exit 2
     ;;
 esac

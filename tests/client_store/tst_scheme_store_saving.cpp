@@ -5,6 +5,7 @@
 #include "tests/client_store/OtherProgram.h"
 #include "tests/client_store/StoreClient.h"
 #include "tests/client_store/TouchedTables.h"
+#include "tests/store_faults/SoakCount.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -574,11 +575,11 @@ void SchemeStoreSavingTest::aReloadDuringTheQuestionMakesTheAnswerVoid()
 
 void SchemeStoreSavingTest::noUpdateIsLostBetweenTwoClients()
 {
-    constexpr int Rounds = 20; // a fiftieth of what is asked of the product in the long run
+    const int rounds = SoakCount::Of(1000);
     Client clients[2];
     for (Client& client : clients)
         client.answer = Answer::KeepOthers;
-    for (int round = 1; round <= Rounds; ++round) {
+    for (int round = 1; round <= rounds; ++round) {
         for (int which : {0, 1}) {
             Client& client = clients[which];
             client.map[Door(which)].listAlarmOut[0].Time = round;
@@ -587,11 +588,12 @@ void SchemeStoreSavingTest::noUpdateIsLostBetweenTwoClients()
         }
     }
     const AlarmInfoMap stored = Stored();
-    QCOMPARE(stored.size(), 5 + 2 * Rounds);
+    QCOMPARE(stored.size(), 5 + 2 * rounds);
     for (const AlarmInfo& info : stored)
         QVERIFY(info.bOpen);
     for (int which : {0, 1})
-        QCOMPARE(stored.value(Door(which)).listAlarmOut.at(0).Time, Rounds);
+        QCOMPARE(stored.value(Door(which)).listAlarmOut.at(0).Time, rounds);
+    qInfo("two clients saved in turn, %d rounds", rounds);
 }
 
 void SchemeStoreSavingTest::textsThatNameColumnsAreNoForeignChange()

@@ -60,8 +60,8 @@ private:
             sqlite3_bind_double(pStatement, iIndex, static_cast<double>(Number(8)) / 1000.0);
             break;
         default: {
-            const size_t size =
-                std::min(static_cast<size_t>(Byte() % 40), static_cast<size_t>(m_pEnd - m_pNext));
+            const size_t wanted = Byte() % 40;
+            const size_t size = std::min(wanted, static_cast<size_t>(m_pEnd - m_pNext));
             const auto* bytes = reinterpret_cast<const char*>(m_pNext);
             if (type % 8 == 6) {
                 sqlite3_bind_text(pStatement, iIndex, bytes, static_cast<int>(size), SQLITE_TRANSIENT);

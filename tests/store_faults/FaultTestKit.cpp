@@ -14,8 +14,6 @@ std::atomic<sqlite3*> s_last{nullptr};
 int OnOpen(sqlite3* pDatabase, char**, const void*)
 {
     s_last = pDatabase;
-    sqlite3_exec(pDatabase, "PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL", nullptr, nullptr,
-                 nullptr);
     return SQLITE_OK;
 }
 

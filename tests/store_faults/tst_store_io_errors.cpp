@@ -111,8 +111,9 @@ void StoreIoErrorsTest::theFileIsOldOrNewWhicheverOperationOfASaveFails()
     QFETCH(bool, many);
     const int operations = OperationsOfASave(many);
     QVERIFY2(operations > 20, qPrintable(QString::number(operations)));
+    int tried = 0;
     int failed = 0;
-    for (int at = 1; at <= operations; at += SoakCount::Step(many ? SoakCount::Share : EveryTenth)) {
+    for (int at = 1; at <= operations; ++tried, at += SoakCount::Step(many ? SoakCount::Share : EveryTenth)) {
         WriteDisk(m_folder->Root(), m_before);
         AlarmSchemeStoreBackend backend;
         Start(backend, many);
@@ -131,6 +132,7 @@ void StoreIoErrorsTest::theFileIsOldOrNewWhicheverOperationOfASaveFails()
         const QString again = FaultTestKit::Differs(m_change.stored);
         QVERIFY2(again.isEmpty(), qPrintable(At(at) + again));
     }
+    qInfo("%d of %d operations of a save failed, %d saves with them", tried, operations, failed);
     QVERIFY(failed > 0);
 }
 
@@ -182,12 +184,15 @@ void StoreIoErrorsTest::theFileIsOldWhenTheDiskIsFullFromAnyWriteOn()
     QVERIFY(saved);
     const int writes = growths;
     QVERIFY(writes > 5);
-    for (int from = 1; from <= writes; from += SoakCount::Step(many ? SoakCount::Share : EveryTenth)) {
+    int tried = 0;
+    for (int from = 1; from <= writes;
+         ++tried, from += SoakCount::Step(many ? SoakCount::Share : EveryTenth)) {
         save(from, saved, reason);
         QVERIFY2(!saved && reason == Reason::DiskFull, qPrintable(At(from)));
         const QString fromOld = FaultTestKit::Differs(m_change.before);
         QVERIFY2(fromOld.isEmpty(), qPrintable(At(from) + fromOld));
     }
+    qInfo("the disk was full from %d of %d writes on", tried, writes);
 }
 
 void StoreIoErrorsTest::aFullDiskStillLetsTheSchemesBeLoaded()
@@ -235,6 +240,7 @@ void StoreIoErrorsTest::aLoadThatFailsHalfwayMakesSavingRefuse()
         QVERIFY2(backend.Load(map) == 0 && map == m_change.before, qPrintable(At(at)));
         QVERIFY2(SaveAndWait(backend, m_change.after) == 0, qPrintable(At(at)));
     }
+    qInfo("%d operations of a load, %d of the loads that failed", operations, refused);
     QVERIFY2(operations > 10 && refused > 0,
              qPrintable(QStringLiteral("%1 of %2").arg(refused).arg(operations)));
 }

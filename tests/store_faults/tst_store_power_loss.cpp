@@ -63,6 +63,7 @@ void StorePowerLossTest::CutEverywhere(const DiskContent& before, const QList<Fa
 {
     const int tornCuts = SoakCount::IsWhole() ? 12 : 2;
     PowerCut cut(before);
+    int cuts = 0;
     for (int done = 0; done <= changes.size(); ++done) {
         if (done > 0)
             cut.Take(changes.at(done - 1));
@@ -72,7 +73,7 @@ void StorePowerLossTest::CutEverywhere(const DiskContent& before, const QList<Fa
         QList<DiskContent> contents{cut.Forced(), cut.All()};
         for (int torn = 0; torn < tornCuts && cut.IsAnythingPending(); ++torn)
             contents.append(cut.Torn(random));
-        for (int which = 0; which < contents.size(); ++which) {
+        for (int which = 0; which < contents.size(); ++which, ++cuts) {
             WriteDisk(m_folder->Root(), contents.at(which));
             const QString wrong = check(done);
             QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("after %1 of %2 changes, cut %3: %4")
@@ -82,6 +83,7 @@ void StorePowerLossTest::CutEverywhere(const DiskContent& before, const QList<Fa
                                                      .arg(wrong)));
         }
     }
+    qInfo("the power failed %d times during %d changes of files", cuts, static_cast<int>(changes.size()));
 }
 
 void StorePowerLossTest::theCutsAreAsTornAsTheyAreSaidToBe()

@@ -127,6 +127,7 @@ void StoreProcessesTest::theFileIsOldOrNewWhereverTheProcessEnds()
             break;
         ++ended;
     }
+    qInfo("the process ended at %d operations of a save", ended);
     QVERIFY(ended > 1);
 }
 
@@ -199,6 +200,7 @@ void StoreProcessesTest::twoProcessesThatSaveAtOnceLoseNoUpdate()
     QCOMPARE(FaultTestKit::Read(map), QString());
     QCOMPARE(FaultTestKit::LostRound(map, 2, rounds), QString());
     QCOMPARE(map.size(), m_change.before.size() + 2 * rounds);
+    qInfo("two processes saved at once, %d rounds each", rounds);
 }
 
 QTEST_GUILESS_MAIN(StoreProcessesTest)
