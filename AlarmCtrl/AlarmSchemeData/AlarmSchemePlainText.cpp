@@ -75,6 +75,16 @@ bool IsPlainText(const QString& strText)
     return !IsColumnName(QLatin1String(text));
 }
 
+bool NamesColumn(const QString& strText)
+{
+    // No column has other letters, which the conversion might turn into theirs.
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    if (!std::all_of(strText.cbegin(), strText.cend(), isAscii))
+        return false;
+    const QByteArray text = strText.toLatin1();
+    return IsColumnName(QLatin1String(text));
+}
+
 bool IsPlainText(const char* pText, size_t iSize)
 {
     const auto isPlain = [](char c) { return IsPlainCharacter(static_cast<unsigned char>(c)); };

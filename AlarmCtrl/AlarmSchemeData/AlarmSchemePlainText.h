@@ -1,5 +1,7 @@
 #pragma once
 
+#include "alarmschemestore_export.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -9,3 +11,6 @@
 /// quotes that would be read as the column). Every event source that the editors build is one.
 bool IsPlainText(const QString& strText);
 bool IsPlainText(const char* pText, size_t iSize);
+
+/// Whether SQLite reads the text, between double quotes, as the name of a column of the store's tables.
+ALARMSCHEMESTORE_EXPORT bool NamesColumn(const QString& strText);
