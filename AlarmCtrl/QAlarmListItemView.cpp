@@ -63,6 +63,18 @@ int QAlarmListItemView::GetCurrentType() const
     return pItem != nullptr ? pItem->GetType() : -1;
 }
 
+bool QAlarmListItemView::GoToType(int iType)
+{
+    QAlarmListItem* const pItem =
+        FindItem([iType](const QAlarmListItem& item) { return item.GetType() == iType; });
+    if (pItem == nullptr || pItem->isHidden())
+        return false;
+    m_ui->scrollArea->ensureWidgetVisible(pItem, 0, 0);
+    if (!pItem->isChecked())
+        pItem->click();
+    return true;
+}
+
 void QAlarmListItemView::HideItem(int iType)
 {
     QAlarmListItem* const pItem =

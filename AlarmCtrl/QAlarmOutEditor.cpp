@@ -105,11 +105,16 @@ int64_t QAlarmOutEditor::GetChannelIdFromKey(const QString& strKey)
     return EventSource::OutputChannelId(strKey);
 }
 
+bool QAlarmOutEditor::IsKeyOfSite(const QString& strKey)
+{
+    return IsAlarmOutput(GetChannelIdFromKey(strKey));
+}
+
 int QAlarmOutEditor::GetAlarmOutInfo(QList<AlarmLinkAlarmOut>& listAlarmOut)
 {
     listAlarmOut.clear();
     for (auto it = m_mapLinks.cbegin(); it != m_mapLinks.cend(); ++it) {
-        if (!IsAlarmOutput(GetChannelIdFromKey(it.key())))
+        if (!IsKeyOfSite(it.key()))
             continue;
         listAlarmOut.append(it.value());
         listAlarmOut.last().strLinkAlarmID = it.key();

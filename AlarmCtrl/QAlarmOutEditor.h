@@ -45,6 +45,8 @@ public:
 
     /// The output channel of a link's key; -1 for anything but "<channel>$3$<any>$<any>".
     static int64_t GetChannelIdFromKey(const QString& strKey);
+    /// Whether a link's key names an alarm output that the site has.
+    static bool IsKeyOfSite(const QString& strKey);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

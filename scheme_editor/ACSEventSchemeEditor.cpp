@@ -1,6 +1,7 @@
 #include "scheme_editor/ACSEventSchemeEditor.h"
 
 #include "AlarmCtrl/QAlarmListItemView.h"
+#include "AlarmCtrl/QAlarmOutEditor.h"
 #include "platform/LXGUI/LXPushButton.h"
 #include "platform/LXGUI/LXSwitchButton.h"
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
@@ -17,9 +18,11 @@
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "scheme_editor/AlarmInputTree.h"
 #include "scheme_editor/CategoryColumn.h"
-#include "scheme_editor/DeviceSchemes.h"
+#include "scheme_editor/EditObserver.h"
+#include "scheme_editor/EventCategories.h"
 #include "scheme_editor/EventSourceLookup.h"
 #include "scheme_editor/QNoFocusItemDelegate.h"
+#include "scheme_editor/SchemeBook.h"
 #include "scheme_editor/SchemeCopy.h"
 #include "scheme_editor/SchemeForm.h"
 #include "scheme_editor/TabLayout.h"
@@ -27,18 +30,11 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QStandardItem>
 
 #include <algorithm>
-#include <iterator>
-
-/// One category of door events: its button, its list and the host's event types.
-struct ACSEventSchemeEditor::EventCategory
-{
-    QPushButton* pButton;
-    QAlarmListItemView* pList;
-    QList<int> (*types)();
-};
+#include <utility>
 
 /// One settings tab: its button and the sub-editor behind it.
 struct ACSEventSchemeEditor::SettingsTab
@@ -50,8 +46,13 @@ struct ACSEventSchemeEditor::SettingsTab
 ACSEventSchemeEditor::ACSEventSchemeEditor(QWidget* parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::ACSEventSchemeEditor>())
+    , m_book(std::make_unique<SchemeBook>(&QAlarmOutEditor::IsKeyOfSite))
 {
     m_ui->setupUi(this);
+    m_categories = std::make_unique<EventCategories>(std::array<EventCategory, 3>{
+        {{m_ui->btnAlarm, m_ui->listAlarm, &AlarmSchemeCommon::ACSAlarmEvent},
+         {m_ui->btnAbnormal, m_ui->listAbnormal, &AlarmSchemeCommon::ACSAbnormalEvent},
+         {m_ui->btnNormal, m_ui->listNormal, &AlarmSchemeCommon::ACSNormalEvent}}});
     setObjectName(QStringLiteral("ACSEventSchemeEditor"));
     UICommonMdl::CommonFun::SetStyleSheet(this, QStringLiteral("ACSEventConfigUI"), QString(), QString());
 }
@@ -63,13 +64,6 @@ ACSEventSchemeEditor::~ACSEventSchemeEditor()
         m_pTree->SetModel(nullptr);
     }
     delete m_pTreeModel;
-}
-
-std::array<ACSEventSchemeEditor::EventCategory, 3> ACSEventSchemeEditor::EventCategories() const
-{
-    return {{{m_ui->btnAlarm, m_ui->listAlarm, &AlarmSchemeCommon::ACSAlarmEvent},
-             {m_ui->btnAbnormal, m_ui->listAbnormal, &AlarmSchemeCommon::ACSAbnormalEvent},
-             {m_ui->btnNormal, m_ui->listNormal, &AlarmSchemeCommon::ACSNormalEvent}}};
 }
 
 std::array<ACSEventSchemeEditor::SettingsTab, 3> ACSEventSchemeEditor::SettingsTabs() const
@@ -89,7 +83,7 @@ void ACSEventSchemeEditor::Init(const LXPluginAPI::ManagerList* pManagers)
     BuildDeviceTree();
     m_ui->treeAlarmIn->setItemDelegate(new QNoFocusItemDelegate(this));
     m_form = std::make_unique<SchemeForm>(m_ui->btnOpenStatus, m_ui->wndSubSetting);
-    FillEventLists();
+    m_categories->FillLists();
 
     // The narrow first column holds until the viewport is resized for the first time.
     AlarmInputTree::Prepare(*m_ui->treeAlarmIn);
@@ -109,7 +103,8 @@ void ACSEventSchemeEditor::Init(const LXPluginAPI::ManagerList* pManagers)
     OnOptionBtnClicked();
     OnTabBtnClicked();
     SelectSource(QString(), EventSourceLookup::CategoryNone);
-    AlarmSchemeManager::Instance()->LoadAlarmInfo(&m_schemes);
+    AlarmSchemeManager::Instance()->LoadAlarmInfo(&m_book->Schemes());
+    BuildHistory();
 }
 
 const LXPluginAPI::ManagerList* ACSEventSchemeEditor::GetManagerList() const
@@ -124,7 +119,7 @@ void ACSEventSchemeEditor::ClearManagerList()
 
 const AlarmInfoMap& ACSEventSchemeEditor::GetAlarmInfoMap() const
 {
-    return m_schemes;
+    return m_book->Schemes();
 }
 
 QString ACSEventSchemeEditor::GetEditedScheme() const
@@ -134,50 +129,29 @@ QString ACSEventSchemeEditor::GetEditedScheme() const
 
 int ACSEventSchemeEditor::GetEnabledSchemes() const
 {
-    return static_cast<int>(std::count_if(m_schemes.cbegin(), m_schemes.cend(),
-                                          [](const AlarmInfo& info) { return info.bOpen; }));
+    return m_book->EnabledCount();
 }
 
 QString ACSEventSchemeEditor::GetUndoText() const
 {
-    return {};
+    const SchemeStep* const pStep = m_book->History().NextUndo();
+    return pStep != nullptr ? pStep->strText : QString();
 }
 
 QString ACSEventSchemeEditor::GetRedoText() const
 {
-    return {};
+    const SchemeStep* const pStep = m_book->History().NextRedo();
+    return pStep != nullptr ? pStep->strText : QString();
 }
 
 bool ACSEventSchemeEditor::CanUndo() const
 {
-    return false;
+    return m_book->History().NextUndo() != nullptr;
 }
 
 bool ACSEventSchemeEditor::CanRedo() const
 {
-    return false;
-}
-
-void ACSEventSchemeEditor::Undo()
-{
-}
-
-void ACSEventSchemeEditor::Redo()
-{
-}
-
-void ACSEventSchemeEditor::MarkUnsaved()
-{
-}
-
-QByteArray ACSEventSchemeEditor::Draft() const
-{
-    return {};
-}
-
-int ACSEventSchemeEditor::RestoreDraft(const QByteArray& draft)
-{
-    return draft.isEmpty() ? -1 : 0;
+    return m_book->History().NextRedo() != nullptr;
 }
 
 void ACSEventSchemeEditor::BuildDeviceTree()
@@ -207,15 +181,15 @@ void ACSEventSchemeEditor::BuildDeviceTree()
             &ACSEventSchemeEditor::OnRemoveDevice);
 }
 
-void ACSEventSchemeEditor::FillEventLists()
+void ACSEventSchemeEditor::BuildHistory()
 {
-    for (const EventCategory& category : EventCategories()) {
-        category.pList->setAccessibleName(category.pButton->text());
-        category.pList->SetSubVisible(false);
-        const QList<int> types = category.types();
-        for (const int iType : types)
-            category.pList->AddItem(QCommon::GetAlarmNameByType(iType), iType);
-    }
+    connect(m_book.get(), &SchemeBook::SignalModifiedChanged, this, &ACSEventSchemeEditor::ShowModified);
+    connect(m_book.get(), &SchemeBook::SignalEnabledChanged, this,
+            &ACSEventSchemeEditor::SignalEnabledSchemesChanged);
+    connect(&m_book->History(), &SchemeHistory::SignalChanged, this,
+            &ACSEventSchemeEditor::SignalUndoChanged);
+    m_observer = std::make_unique<EditObserver>(*this, [this](bool bInDialog) { StoreEditors(bInDialog); });
+    m_book->MarkLoaded();
 }
 
 void ACSEventSchemeEditor::OnGroupTreeFocusChanged()
@@ -262,13 +236,10 @@ void ACSEventSchemeEditor::RebuildAlarmInputs(const QString& strKey)
 
 void ACSEventSchemeEditor::SwitchCategory(int32_t iCategory)
 {
-    const std::array<EventCategory, 3> categories = EventCategories();
-    for (const EventCategory& category : categories)
-        category.pButton->hide();
+    m_categories->SetButtonsVisible(false);
     m_ui->btnExternalAlarm->hide();
     if (iCategory == EventSourceLookup::CategoryDoor) {
-        for (const EventCategory& category : categories)
-            category.pButton->show();
+        m_categories->SetButtonsVisible(true);
         m_ui->btnAlarm->click();
     } else if (iCategory == EventSourceLookup::CategoryDevice) {
         m_ui->btnExternalAlarm->show();
@@ -287,7 +258,7 @@ void ACSEventSchemeEditor::OnOptionBtnClicked()
     m_selection.iAlarmType = -1;
     m_ui->wndSettings->setEnabled(true);
 
-    for (const EventCategory& category : EventCategories()) {
+    for (const EventCategory& category : *m_categories) {
         disconnect(category.pList, &QAlarmListItemView::SignalCurrentItemChanged, this, nullptr);
         const bool bShown = category.pButton == pChecked;
         category.pList->setVisible(bShown);
@@ -360,24 +331,42 @@ void ACSEventSchemeEditor::LoadCurrentScheme()
 {
     m_ui->lblSettingType->setText(QCommon::GetAlarmNameByType(m_selection.ShownType()));
     const std::optional<AlarmSourceKey> key = m_selection.CurrentKey();
-    if (key)
-        ShowScheme(m_schemes[*key]);
-    else if (!m_selection.HasEvent())
+    if (key) {
+        AlarmInfo info = m_book->Schemes()[*key];
+        ShowScheme(info);
+        // As the form reads it, which knows only what the site has.
+        m_form->Store(info);
+        m_held = HeldScheme{*key, info};
+    } else if (!m_selection.HasEvent()) {
         ShowScheme(AlarmInfo());
+    }
     UpdateSettingsEnabled();
 }
 
 void ACSEventSchemeEditor::ShowScheme(const AlarmInfo& info)
 {
     RefreshMarks();
+    m_held.reset();
     m_form->Show(info);
 }
 
-void ACSEventSchemeEditor::StoreEditors()
+// What the form holds against what it held: the difference is a person's edit.
+void ACSEventSchemeEditor::StoreEditors(bool bInDialog)
 {
     const std::optional<AlarmSourceKey> key = m_selection.CurrentKey();
-    if (key)
-        m_form->Store(m_schemes[*key]);
+    if (!key)
+        return;
+    AlarmInfo& entry = m_book->Schemes()[*key];
+    m_form->Store(entry);
+    if (!m_held || m_held->key != *key || m_held->info == entry)
+        return;
+    const AlarmInfo before = std::exchange(m_held->info, entry);
+    SchemeStep step;
+    step.place = m_selection;
+    step.iEditor = SchemeForm::EditorOf(before, entry);
+    step.iTyping = m_observer->Typing();
+    m_book->RecordEdit(*key, before, step,
+                       bInDialog ? SchemeActionText::Way::InDialog : SchemeActionText::Way::OnPage);
 }
 
 void ACSEventSchemeEditor::OnOpenStatusChanged(bool bOpen)
@@ -388,29 +377,22 @@ void ACSEventSchemeEditor::OnOpenStatusChanged(bool bOpen)
     const std::optional<AlarmSourceKey> key = selection.CurrentKey();
     if (!key)
         return;
-    m_schemes[*key].bOpen = m_ui->btnOpenStatus->isToggled();
+    m_book->Schemes()[*key].bOpen = m_ui->btnOpenStatus->isToggled();
     RefreshMarks();
+    StoreEditors();
 }
 
 bool ACSEventSchemeEditor::IsSchemeOn(const QString& strSource, int32_t iType) const
 {
     const std::optional<AlarmSourceKey> key = EventSource::SchemeKey(strSource, iType);
-    if (!key)
-        return false;
-    const auto found = m_schemes.constFind(*key);
-    return found != m_schemes.cend() && found->bOpen;
+    return key && m_book->IsOn(*key);
 }
 
 void ACSEventSchemeEditor::RefreshMarks()
 {
-    QAbstractButton* const pChecked = m_ui->buttonGroupType->checkedButton();
-    for (const EventCategory& category : EventCategories()) {
-        if (category.pButton != pChecked)
-            continue;
-        const QList<int> types = category.types();
-        for (const int iType : types)
-            category.pList->SetItemMark(iType, IsSchemeOn(m_selection.strSource, iType));
-    }
+    const QAbstractButton* const pChecked = m_ui->buttonGroupType->checkedButton();
+    m_categories->RefreshMarks(pChecked,
+                               [this](int iType) { return IsSchemeOn(m_selection.strSource, iType); });
     if (pChecked == m_ui->btnExternalAlarm) {
         AlarmInputTree::RefreshMarks(*m_ui->treeAlarmIn, [this](const QString& strKey) {
             return IsSchemeOn(strKey, m_selection.iAlarmInputType);
@@ -441,7 +423,8 @@ void ACSEventSchemeEditor::UpdateSettingsEnabled()
 void ACSEventSchemeEditor::OnSave()
 {
     StoreEditors();
-    AlarmSchemeManager::Instance()->SaveAlarmInfo(&m_schemes);
+    if (AlarmSchemeManager::Instance()->SaveAlarmInfo(&m_book->Schemes()) == 0)
+        m_book->MarkSaved();
 }
 
 void ACSEventSchemeEditor::OnCopyTo()
@@ -470,15 +453,22 @@ void ACSEventSchemeEditor::OnCopyToImp(QList<QString> keys)
     if (pPopup == nullptr)
         return;
     const bool bDoor = pPopup->GetMode() == ACSCopy::Door;
-    m_schemes =
-        SchemeCopy::Copy(std::move(m_schemes), bDoor ? m_selection.strSource : m_selection.strAlarmInput,
-                         keys, bDoor ? SchemeCopy::DoorEventTypes() : SchemeCopy::AlarmInputEventTypes());
+    const QString strSource = bDoor ? m_selection.strSource : m_selection.strAlarmInput;
+    SchemeStep step;
+    step.place = m_selection;
+    step.strText = SchemeActionText::OfCopy(SchemeCopy::Targets(strSource, keys).size());
+    m_book->Schemes() = SchemeCopy::Copy(
+        std::move(m_book->Schemes()), strSource, keys,
+        bDoor ? SchemeCopy::DoorEventTypes() : SchemeCopy::AlarmInputEventTypes(), &step.change);
     RefreshMarks();
+    m_book->RecordStep(step);
 }
 
 void ACSEventSchemeEditor::OnRemoveDevice(int64_t iDevUniqueId)
 {
-    DeviceSchemes::Remove(m_schemes, iDevUniqueId);
+    if (m_held && EventSource::BelongsToDevice(m_held->key.strEventSource, iDevUniqueId))
+        m_held.reset();
+    m_book->RemoveDevice(iDevUniqueId);
     const bool bSourceGone = EventSource::FirstField(m_selection.strSource) == iDevUniqueId;
     const bool bInputGone = EventSource::FirstField(m_selection.strAlarmInput) == iDevUniqueId;
     if (bSourceGone)
@@ -489,6 +479,108 @@ void ACSEventSchemeEditor::OnRemoveDevice(int64_t iDevUniqueId)
         AlarmInputTree::Clear(*m_ui->treeAlarmIn);
         ShowScheme(AlarmInfo());
         UpdateSettingsEnabled();
+    }
+}
+
+bool ACSEventSchemeEditor::MayUndo()
+{
+    if (!m_observer || m_observer->IsBusy())
+        return false;
+    StoreEditors(); // what was not looked at yet is a step of its own
+    return true;
+}
+
+void ACSEventSchemeEditor::Undo()
+{
+    if (!MayUndo() || !CanUndo())
+        return;
+    GoTo(*m_book->History().NextUndo());
+    m_book->History().Undo();
+    LoadCurrentScheme();
+}
+
+void ACSEventSchemeEditor::Redo()
+{
+    if (!MayUndo() || !CanRedo())
+        return;
+    GoTo(*m_book->History().NextRedo());
+    m_book->History().Redo();
+    LoadCurrentScheme();
+}
+
+// By the ways that a person takes, so that all of the page follows.
+void ACSEventSchemeEditor::GoTo(const SchemeStep& step)
+{
+    const SchemeSelection place = step.place;
+    const int iEditor = step.iEditor;
+    const std::optional<EventSource::Fields> source = EventSource::Split(place.strSource);
+    if (!source || m_pTree.isNull())
+        return;
+    const bool bDevice = place.bExternal;
+    const int64_t iNode = bDevice ? source->iOwner : source->iChannel;
+    const int32_t iKind = bDevice ? VantaModel::NodeKindDevice : VantaModel::NodeKindChannel;
+    if (!m_pTree->SelectNode(iNode, iKind)) {
+        m_pTree->ClearSearch();
+        if (!m_pTree->SelectNode(iNode, iKind))
+            return;
+    }
+    OnGroupTreeFocusChanged();
+    if (bDevice)
+        AlarmInputTree::GoTo(*m_ui->treeAlarmIn, place.strAlarmInput);
+    else
+        m_categories->GoTo(place.iAlarmType);
+    if (iEditor >= 0)
+        SettingsTabs().at(static_cast<std::size_t>(iEditor)).pButton->click();
+}
+
+void ACSEventSchemeEditor::MarkUnsaved()
+{
+    m_book->MarkUnsaved();
+}
+
+QByteArray ACSEventSchemeEditor::Draft()
+{
+    if (m_observer && !m_observer->IsBusy())
+        StoreEditors();
+    return m_book->Draft();
+}
+
+int ACSEventSchemeEditor::RestoreDraft(const QByteArray& draft)
+{
+    if (!MayUndo())
+        return -1;
+    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    const std::optional<int> restored =
+        m_book->RestoreDraft(draft, m_selection, [pManager](const QString& strSource) {
+            const std::optional<int64_t> device = EventSource::FirstField(strSource);
+            VantaLogic::DeviceInfo info;
+            return device && pManager != nullptr && pManager->GetDevice(*device, info) == 0;
+        });
+    if (restored)
+        LoadCurrentScheme();
+    return restored.value_or(-1);
+}
+
+// A page that stands alone has a title without the placeholder that setWindowModified() asks for.
+void ACSEventSchemeEditor::ShowModified(bool bModified)
+{
+    setAttribute(Qt::WA_WindowModified, bModified);
+    QEvent change(QEvent::ModifiedChange);
+    QCoreApplication::sendEvent(this, &change);
+}
+
+// Only what neither the widget with the focus nor a shortcut of the host has taken arrives here.
+void ACSEventSchemeEditor::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Undo)) {
+        Undo();
+    } else if (event->matches(QKeySequence::Redo) ||
+               (event->key() == Qt::Key_Y && event->modifiers() == Qt::ControlModifier)) {
+        Redo();
+    } else if (event->matches(QKeySequence::Find) && !m_pTree.isNull()) {
+        m_pTree->FocusSearch();
+    } else {
+        QFrame::keyPressEvent(event);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "platform/LXPluginAPI/IManager.h"
 #include "scheme_editor/SchemeSelection.h"
 
+#include <QByteArray>
 #include <QFrame>
 #include <QList>
 #include <QPointer>
@@ -12,11 +13,14 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
-class QAlarmListItemView;
-class QPushButton;
+class EditObserver;
+class EventCategories;
 class QTreeWidgetItem;
+class SchemeBook;
 class SchemeForm;
+struct SchemeStep;
 
 namespace Ui {
 class ACSEventSchemeEditor;
@@ -34,7 +38,8 @@ class ACSGroupTreeModel;
 ///
 /// All editing happens in one map of schemes, filled once by Init() and handed back whole on Save. What the
 /// sub-editors show belongs to the current selection; every change of selection first reads them back into
-/// the map. User-interface thread; owned by the host's widget tree.
+/// the map, and so does the end of a person's action. Whether the map differs from what was last loaded or
+/// saved is the page's window-modified state. User-interface thread; owned by the host's widget tree.
 class ACSEventSchemeEditor : public QFrame
 {
     Q_OBJECT
@@ -96,42 +101,53 @@ public:
     Q_INVOKABLE void MarkUnsaved();
     /// The edits that are not saved, for a file that outlives a crash: the schemes that differ from what was
     /// last loaded or saved. Empty when nothing differs.
-    Q_INVOKABLE QByteArray Draft() const;
+    Q_INVOKABLE QByteArray Draft();
     /// Makes the edits of a draft again, as one edit that can be undone. How many schemes changed by it, -1
     /// when the bytes are no usable draft.
     Q_INVOKABLE int RestoreDraft(const QByteArray& draft);
 
 protected:
     void customEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    struct EventCategory;
     struct SettingsTab;
+    /// What the form held when it was last shown or read.
+    struct HeldScheme
+    {
+        AlarmSourceKey key;
+        AlarmInfo info;
+    };
 
-    std::array<EventCategory, 3> EventCategories() const;
     std::array<SettingsTab, 3> SettingsTabs() const;
 
     void BuildDeviceTree();
-    void FillEventLists();
+    void BuildHistory();
     void SelectSource(const QString& strKey, int32_t iCategory);
     void RebuildAlarmInputs(const QString& strKey);
     void SwitchCategory(int32_t iCategory);
     void ChooseAlarmInput(const QString& strKey);
     void LoadCurrentScheme();
     void ShowScheme(const AlarmInfo& info);
-    void StoreEditors();
+    void StoreEditors(bool bInDialog = false);
     void RefreshMarks();
     void UpdateSettingsEnabled();
     bool IsSchemeOn(const QString& strSource, int32_t iType) const;
+    void GoTo(const SchemeStep& step);
+    bool MayUndo();
+    void ShowModified(bool bModified);
 
     std::unique_ptr<Ui::ACSEventSchemeEditor> m_ui;
     bool m_bInitialized = false;
     const LXPluginAPI::ManagerList* m_pManagers = nullptr;
+    std::unique_ptr<EventCategories> m_categories;
     std::unique_ptr<SchemeForm> m_form;
     QPointer<VantaComponent::GroupTreeCtrl> m_pTree; ///< a host may take the widget tree apart piece by piece
     VantaModel::ACSGroupTreeModel* m_pTreeModel = nullptr;
     SchemeSelection m_selection;
-    AlarmInfoMap m_schemes;
+    std::unique_ptr<SchemeBook> m_book;
+    std::unique_ptr<EditObserver> m_observer;
+    std::optional<HeldScheme> m_held;
     QString m_strEditedScheme;
 };

@@ -69,6 +69,15 @@ void AlarmInputTree::Clear(QTreeWidget& tree)
     tree.clear();
 }
 
+void AlarmInputTree::GoTo(QTreeWidget& tree, const QString& strKey)
+{
+    const QTreeWidgetItem* const pDevice = tree.topLevelItem(0);
+    for (int i = 0; pDevice != nullptr && i < pDevice->childCount(); ++i) {
+        if (KeyOf(pDevice->child(i)) == strKey)
+            tree.setCurrentItem(pDevice->child(i));
+    }
+}
+
 QString AlarmInputTree::KeyOf(const QTreeWidgetItem* pItem)
 {
     return pItem != nullptr ? pItem->data(0, Qt::UserRole).toString() : QString();

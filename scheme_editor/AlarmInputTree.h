@@ -23,6 +23,8 @@ bool Fill(QTreeWidget& tree, const EventSourceLookup::AlarmInputs& inputs);
 /// Empties the tree without a signal.
 void Clear(QTreeWidget& tree);
 
+/// Makes the input of a key the current one, as a click on it does.
+void GoTo(QTreeWidget& tree, const QString& strKey);
 /// Key of an item; a null text for no item and for items without one.
 QString KeyOf(const QTreeWidgetItem* pItem);
 /// Shows the mark of every input whose key is accepted and hides the others.

@@ -3,5 +3,5 @@ acs_library(SchemeCopy STATIC SOURCES
     ACSCopyModes.cpp ACSCopyModes.h
     ACSEventCopyToPopup.cpp ACSEventCopyToPopup.h ACSEventCopyToPopup.ui
     SchemeCopy.cpp SchemeCopy.h
-    PUBLIC AlarmRecords AlarmLinkage
+    PUBLIC AlarmRecords AlarmLinkage SchemeEdits
     PRIVATE HostServices LXGUI SystemLibrary VantaComponent VantaModel VantaLogic)

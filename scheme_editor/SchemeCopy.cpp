@@ -46,7 +46,8 @@ void SortUnique(QVector<QString>& texts)
 
 /// Brings the entries of one source text into line, walking the map and the copies side by side (both are in
 /// ascending order of type): one search for each text instead of one for each entry.
-void Apply(AlarmInfoMap& map, const QString& strText, const QVector<TypeCopy>& copies)
+void Apply(AlarmInfoMap& map, const QString& strText, const QVector<TypeCopy>& copies,
+           SchemeChange::Builder& change)
 {
     if (copies.isEmpty())
         return;
@@ -56,6 +57,7 @@ void Apply(AlarmInfoMap& map, const QString& strText, const QVector<TypeCopy>& c
         while (place != map.end() && place.key() < key)
             ++place;
         const bool present = place != map.end() && place.key() == key;
+        change.Add(key, present ? &place.value() : nullptr, copy.scheme ? &*copy.scheme : nullptr);
         if (!copy.scheme) {
             if (present)
                 place = map.erase(place);
@@ -81,7 +83,7 @@ QList<int> SchemeCopy::AlarmInputEventTypes()
 }
 
 AlarmInfoMap SchemeCopy::Copy(AlarmInfoMap map, const QString& strSource, const QList<QString>& targets,
-                              const QList<int>& types)
+                              const QList<int>& types, SchemeChange* pChange)
 {
     if (strSource.isEmpty())
         return map;
@@ -99,8 +101,9 @@ AlarmInfoMap SchemeCopy::Copy(AlarmInfoMap map, const QString& strSource, const 
         perDevice.append(*shared);
         perSource.erase(shared);
     }
+    SchemeChange::Builder change;
     for (const QString& strText : qAsConst(texts))
-        Apply(map, strText, perSource);
+        Apply(map, strText, perSource, change);
 
     if (!perDevice.isEmpty()) {
         QVector<QString> devices;
@@ -111,7 +114,18 @@ AlarmInfoMap SchemeCopy::Copy(AlarmInfoMap map, const QString& strSource, const 
         }
         SortUnique(devices);
         for (const QString& strText : qAsConst(devices))
-            Apply(map, strText, perDevice);
+            Apply(map, strText, perDevice, change);
     }
+    if (pChange != nullptr)
+        *pChange = change.Take();
     return map;
+}
+
+QList<QString> SchemeCopy::Targets(const QString& strSource, const QList<QString>& keys)
+{
+    QList<QString> targets = keys;
+    targets.removeAll(strSource);
+    std::sort(targets.begin(), targets.end());
+    targets.erase(std::unique(targets.begin(), targets.end()), targets.end());
+    return targets;
 }

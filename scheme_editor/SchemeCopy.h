@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmInfo.h"
+#include "scheme_editor/edits/SchemeChange.h"
 
 #include <QList>
 #include <QString>
@@ -17,12 +18,15 @@ QList<int> AlarmInputEventTypes();
 /// none, or one that still holds the defaults, the targets' schemes of that type are removed: copying an
 /// unset scheme clears. The source itself is taken off the targets once. The per-device event type is kept
 /// under the targets' devices (EventSource::SchemeKey); targets that do not split into four fields are left
-/// out for it. An empty source changes nothing.
+/// out for it. An empty source changes nothing. `pChange` receives what the copy did; null when nobody asks.
 ///
 /// Copied records share their memory with the source's until one of them is edited. Hand the map over
 /// (`map = Copy(std::move(map), ...)`), or the whole of it is copied first. Takes time proportional to
 /// targets x types plus the logarithm of the map per target.
 AlarmInfoMap Copy(AlarmInfoMap map, const QString& strSource, const QList<QString>& targets,
-                  const QList<int>& types);
+                  const QList<int>& types, SchemeChange* pChange = nullptr);
+
+/// The targets as they are meant: each once, without the source.
+QList<QString> Targets(const QString& strSource, const QList<QString>& keys);
 
 } // namespace SchemeCopy

@@ -7,6 +7,8 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 SchemeForm::SchemeForm(LXGUI::LXSwitchButton* pOpenStatus, QWidget* pContainer)
     : m_pOpenStatus(pOpenStatus)
     , m_pNotify(new ACSEventNotifyEditor(pContainer))
@@ -22,6 +24,15 @@ SchemeForm::SchemeForm(LXGUI::LXSwitchButton* pOpenStatus, QWidget* pContainer)
 std::array<QWidget*, 3> SchemeForm::Editors() const
 {
     return {m_pNotify, m_pAlarmOut, m_pDefenceTime};
+}
+
+int SchemeForm::EditorOf(const AlarmInfo& a, const AlarmInfo& b)
+{
+    const std::array<bool, 3> differs{a.bOpenSound != b.bOpenSound || a.bSendEmail != b.bSendEmail,
+                                      !(a.listAlarmOut == b.listAlarmOut), a.defenceTime != b.defenceTime};
+    if (std::count(differs.cbegin(), differs.cend(), true) != 1)
+        return -1;
+    return static_cast<int>(std::find(differs.cbegin(), differs.cend(), true) - differs.cbegin());
 }
 
 void SchemeForm::Show(const AlarmInfo& info)

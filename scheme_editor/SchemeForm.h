@@ -23,6 +23,9 @@ public:
     /// The sub-editors in the order of their tabs: notify, alarm out, defence time.
     std::array<QWidget*, 3> Editors() const;
 
+    /// Position of the sub-editor in which two schemes differ; -1 for none and for several.
+    static int EditorOf(const AlarmInfo& a, const AlarmInfo& b);
+
     void Show(const AlarmInfo& info);
     /// Writes what the form shows into a scheme; what the form does not show stays as it is.
     void Store(AlarmInfo& info) const;

@@ -11,6 +11,12 @@
 
 namespace VantaComponent {
 
+namespace {
+
+constexpr int Indentation = 12; // pixels; names are long and the tree is narrow
+
+} // namespace
+
 DeviceTreeView::DeviceTreeView(QWidget* parent)
     : QTreeView(parent)
     , m_pDelegate(new NodeDelegate(this))
@@ -19,6 +25,7 @@ DeviceTreeView::DeviceTreeView(QWidget* parent)
     setItemDelegate(m_pDelegate);
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    setIndentation(Indentation);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setSelectionBehavior(SelectRows);

@@ -3,6 +3,7 @@
 #include "platform/VantaComponent/GroupTreeCtrlPrivate.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMetaType>
 
 namespace VantaComponent {
@@ -116,6 +117,17 @@ bool GroupTreeCtrl::SelectNode(int64_t iNodeId, int32_t iNodeKind)
     return true;
 }
 
+void GroupTreeCtrl::ClearSearch()
+{
+    d->ui.edtSearch->clear();
+}
+
+void GroupTreeCtrl::FocusSearch()
+{
+    d->ui.edtSearch->setFocus(Qt::ShortcutFocusReason);
+    d->ui.edtSearch->selectAll();
+}
+
 void GroupTreeCtrl::UpdateSelectedState(QStandardItem* pItem, bool bChecked)
 {
     d->SetChecked(pItem, bChecked);
@@ -158,6 +170,15 @@ void GroupTreeCtrl::changeEvent(QEvent* event)
         d->TakeThemeColours();
     }
     QWidget::changeEvent(event);
+}
+
+// Keys that nobody in the tree has taken; a host's shortcut comes before.
+void GroupTreeCtrl::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Find))
+        FocusSearch();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 } // namespace VantaComponent

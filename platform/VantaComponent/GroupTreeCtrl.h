@@ -54,6 +54,9 @@ public:
     QStandardItem* GetSelectedItem() const;
     /// Selects the node of this id and kind by program (no signal); false when the tree does not show it.
     bool SelectNode(int64_t iNodeId, int32_t iNodeKind);
+    void ClearSearch(); ///< as emptying the search field does
+    /// Puts the keyboard into the search field, with its text selected. Ctrl+F in the tree does the same.
+    void FocusSearch();
     /// Sets the check state of an item, of the visible items below it and of its parents; null is ignored.
     void UpdateSelectedState(QStandardItem* pItem, bool bChecked);
 
@@ -77,6 +80,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     class Private;

@@ -75,13 +75,15 @@ std::vector<Room> MakeRooms()
     const QString deviceSchemes = Text("scheme_editor/DeviceSchemes");
     const QString lookup = Text("scheme_editor/EventSourceLookup");
     const QString tabs = Text("scheme_editor/TabLayout");
+    const QString edits = Text("scheme_editor/edits/");
     const QString tiles = Text("client/TileArrangement");
     const QString modulePlatform = Text("client/ModulePlatform");
     const QString systemLibrary = Text("platform/SystemLibrary/");
     rooms.push_back({defenceTime, QtReach::Core, false, {records}});
-    rooms.push_back({copy, QtReach::Core, false, {records, systemLibrary}});
+    rooms.push_back({edits, QtReach::Core, false, {records}});
+    rooms.push_back({copy, QtReach::Core, false, {records, edits, systemLibrary}});
     rooms.push_back({selection, QtReach::Core, false, {records}});
-    rooms.push_back({deviceSchemes, QtReach::Core, false, {records}});
+    rooms.push_back({deviceSchemes, QtReach::Core, false, {records, edits}});
     rooms.push_back({lookup,
                      QtReach::Core,
                      false,
@@ -98,8 +100,8 @@ std::vector<Room> MakeRooms()
     rooms.push_back({Text("AlarmCtrl/"), QtReach::Widgets, false,
                      wholePlatform + QStringList{records, defenceTime, hostServices}});
     rooms.push_back({Text("scheme_editor/"), QtReach::Widgets, false,
-                     wholePlatform + QStringList{records, defenceTime, copy, selection, deviceSchemes, lookup,
-                                                 tabs, hostServices, Text("AlarmCtrl/")}});
+                     wholePlatform + QStringList{records, defenceTime, copy, edits, selection, deviceSchemes,
+                                                 lookup, tabs, hostServices, Text("AlarmCtrl/")}});
     rooms.push_back({Text("plugin/"), QtReach::Widgets, false,
                      wholePlatform + QStringList{records, store, defenceTime, hostServices,
                                                  Text("AlarmCtrl/"), Text("scheme_editor/")}});

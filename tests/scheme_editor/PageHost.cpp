@@ -214,7 +214,10 @@ void PageHost::MakeMailUsable()
 {
     SystemMailSettings settings;
     settings.bEnable = true;
-    settings.servers.append({QStringLiteral("mail.example"), 25, QString(), QStringLiteral("door@example")});
+    SystemMailServer server;
+    server.strServer = QStringLiteral("mail.example");
+    server.strSender = QStringLiteral("door@example");
+    settings.servers.append(server);
     QSystem::GetInstance()->SetMailSettings(settings);
 }
 

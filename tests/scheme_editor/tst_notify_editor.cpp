@@ -134,6 +134,13 @@ struct ShownEditor
     LXGUI::LXSwitchButton* pMail;
 };
 
+SystemMailServer Server(const QString& strServer)
+{
+    SystemMailServer server;
+    server.strServer = strServer;
+    return server;
+}
+
 } // namespace
 
 class TestNotifyEditor : public QObject
@@ -346,7 +353,7 @@ void TestNotifyEditor::onlyTheFirstServerCounts()
     PageHost host;
     SystemMailSettings settings;
     settings.bEnable = true;
-    settings.servers = {{QStringLiteral("mail.example"), 25, {}, {}}, {QString(), 25, {}, {}}};
+    settings.servers = {Server(QStringLiteral("mail.example")), Server(QString())};
     QSystem::GetInstance()->SetMailSettings(settings);
     const ShownEditor shown;
     const BoxAnswer answer(BoxAnswer::Refuse);
@@ -373,7 +380,7 @@ void TestNotifyEditor::unusableMailAsks()
     SystemMailSettings settings;
     settings.bEnable = enabled;
     for (const QString& server : qAsConst(servers))
-        settings.servers.append({server, 25, {}, {}});
+        settings.servers.append(Server(server));
     QSystem::GetInstance()->SetMailSettings(settings);
     const ShownEditor shown;
     const BoxAnswer answer(BoxAnswer::Refuse);
