@@ -24,7 +24,7 @@ std::optional<SilencedFindings> SilencedFindings::Parse(const QByteArray& text, 
 {
     const QByteArray mark = QByteArrayLiteral("\xEF\xBB\xBF");
     const QByteArray bare = text.startsWith(mark) ? text.mid(mark.size()) : text;
-    const QString strText = QString::fromUtf8(bare);
+    const QString strText = QString::fromUtf8(bare.constData(), bare.size());
     if (strText.toUtf8() != bare) {
         strProblem = tr("The text is not in UTF-8.");
         return std::nullopt;
