@@ -4,15 +4,20 @@
 #include "client/ClientPaths.h"
 #include "client/ClientSettings.h"
 #include "client/ClientTranslations.h"
+#include "client/DraftKeeper.h"
+#include "client/DraftOffer.h"
 #include "client/MainWindow.h"
+#include "client/RecoveredPages.h"
 #include "client/SchemeSaving.h"
+#include "client/SessionEnd.h"
 #include "client/SiteSession.h"
+#include "client/UnsavedWork.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
+#include "client/store/SystemUser.h"
 #include "platform/LXGUI/LXMessageNotify.h"
 #include "platform/LXGUI/Metrics.h"
 #include "platform/LXGUI/Theme.h"
 #include "platform/SystemLibrary/QCommon.h"
-#include "platform/SystemLibrary/QRecoverSubWndBase.h"
 #include "platform/SystemLibrary/QSystem.h"
 #include "platform/SystemLibrary/SystemPaths.h"
 
@@ -73,6 +78,7 @@ bool ClientApplication::Start()
     m_window->show();
     QSystem::GetInstance()->SetState(QSystem::StateRunning);
     OpenFirstPages();
+    OfferDrafts();
     return true;
 }
 
@@ -84,6 +90,9 @@ void ClientApplication::Stop()
     // Pages before their modules, modules before the managers they were handed, devices last. The site stops
     // following first, so that taking down looks like no removal to anybody.
     m_site->StopFollowing();
+    m_draftOffer.reset();
+    m_sessionEnd.reset();
+    m_drafts->WriteNow();
     m_window->DestroyPages();
     m_plugins->Unload();
     m_settings->SetTreeExpansion(m_expansion->ToTexts());
@@ -93,6 +102,7 @@ void ClientApplication::Stop()
     }
     AlarmSchemeManager::Instance()->SetBackend(nullptr);
     m_saving.reset();
+    m_drafts.reset();
     LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
     LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(nullptr);
     QSystem::GetInstance()->disconnect(this);
@@ -200,7 +210,15 @@ void ClientApplication::OpenSite()
 void ClientApplication::PrepareSchemes()
 {
     auto backend = std::make_unique<AlarmSchemeStoreBackend>();
+    backend->SetAuthor(&SystemUser::Name);
     m_saving = std::make_unique<SchemeSaving>(*backend, *m_window);
+    m_drafts = std::make_unique<DraftKeeper>(QGetDatabaseDirPath(), m_window->Pages());
+    m_drafts->Follow(backend.get());
+    connect(&m_window->Unsaved(), &UnsavedWork::SignalDiscarded, m_drafts.get(), &DraftKeeper::Forget);
+    connect(
+        m_drafts.get(), &DraftKeeper::SignalWriteFailed, m_window.get(), [this](const QString& strReason) {
+            m_window->AddProblem(tr("Unsaved changes cannot be kept against a crash: %1.").arg(strReason));
+        });
     AlarmSchemeManager::Instance()->SetBackend(std::move(backend));
 }
 
@@ -227,30 +245,40 @@ void ClientApplication::OpenFirstPages()
     }
 }
 
+void ClientApplication::OfferDrafts()
+{
+    m_sessionEnd = std::make_unique<SessionEnd>([this](bool bMayAsk) { return MayEndSession(bMayAsk); },
+                                                [this] { RememberWindow(); });
+    if (!m_options.strPictureFile.isEmpty()) {
+        return; // nobody is there to answer
+    }
+    m_draftOffer = std::make_unique<DraftOffer>(*m_drafts, *m_window, *m_plugins);
+    // Over the window, once it is drawn, and not within the start.
+    QMetaObject::invokeMethod(m_draftOffer.get(), &DraftOffer::Run, Qt::QueuedConnection);
+}
+
 void ClientApplication::OnClosing()
 {
-    m_settings->SetWindowGeometry(m_window->saveGeometry());
+    RememberWindow();
     QSystem::GetInstance()->SetState(QSystem::StateClosing);
-    QStringList keys;
-    QString strFront;
-    const QList<QPointer<QWidget>> pages = m_window->OpenPages();
-    for (int i = 0; i < pages.size(); ++i) {
-        std::unique_ptr<QRecoverSubWndBase> record;
-        LXRecoverEvent event(LXRecoverEvent::MessageRecover, i, &record);
-        QCoreApplication::sendEvent(pages.at(i), &event);
-        if (!record) {
-            continue;
-        }
-        // A page behind another tab is open too; the one in front is opened last, which brings it there.
-        const QString strKey = m_window->KeyOfPage(pages.at(i));
-        if (record->IsVisible()) {
-            strFront = strKey;
-        } else {
-            keys.append(strKey);
-        }
+}
+
+void ClientApplication::RememberWindow()
+{
+    QSystem* const pSystem = QSystem::GetInstance();
+    const int iState = pSystem->GetState();
+    m_settings->SetWindowGeometry(m_window->saveGeometry());
+    pSystem->SetState(QSystem::StateClosing); // pages give their records in no other
+    m_settings->SetOpenPages(RecoveredPages::Ask(m_window->Pages()));
+    pSystem->SetState(iState);
+    m_settings->Write();
+}
+
+bool ClientApplication::MayEndSession(bool bMayAsk)
+{
+    if (!m_window->Unsaved().MayEndSession(bMayAsk)) {
+        return false;
     }
-    if (!strFront.isEmpty()) {
-        keys.append(strFront);
-    }
-    m_settings->SetOpenPages(keys);
+    m_drafts->WriteNow();
+    return true;
 }

@@ -13,8 +13,11 @@
 
 class ClientSettings;
 class ClientTranslations;
+class DraftKeeper;
+class DraftOffer;
 class MainWindow;
 class SchemeSaving;
+class SessionEnd;
 class SiteSession;
 
 /// The client from its start to its end: owns everything, brings it up in order and takes it down in the
@@ -57,7 +60,10 @@ private:
     void PrepareSchemes();
     void LoadPlugins();
     void OpenFirstPages();
+    void OfferDrafts();
     void OnClosing();
+    void RememberWindow();
+    bool MayEndSession(bool bMayAsk);
 
     ClientOptions m_options;
     QString m_strProgramDirectory;
@@ -71,5 +77,8 @@ private:
     DeviceFunctionManager m_deviceFunctions;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<SchemeSaving> m_saving;
+    std::unique_ptr<DraftKeeper> m_drafts;
+    std::unique_ptr<DraftOffer> m_draftOffer;
+    std::unique_ptr<SessionEnd> m_sessionEnd;
     std::unique_ptr<PluginLoader> m_plugins;
 };

@@ -3,12 +3,16 @@
 
 #include "client/ClientLog.h"
 #include "client/ClientSettings.h"
+#include "client/EditActions.h"
 #include "client/ElidedLabel.h"
 #include "client/HomePage.h"
 #include "client/MailSettingsDialog.h"
+#include "client/PageAccess.h"
 #include "client/PageStatus.h"
+#include "client/PageTabs.h"
 #include "client/PluginLoader.h"
 #include "client/SaveIndicator.h"
+#include "client/UnsavedWork.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "platform/LXGUI/LXMessageBox.h"
 #include "platform/LXGUI/LXMessageNotify.h"
@@ -21,16 +25,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QTabBar>
 #include <QUrl>
-
-#include <utility>
 
 namespace {
 
 using LXGUI::LXMessageNotify;
-
-const char* const ModuleKeyProperty = "clientModuleKey";
 
 void Note(const QString& strText, LXMessageNotify::Level level)
 {
@@ -50,14 +49,13 @@ MainWindow::MainWindow(ClientSettings& settings, UserRole role, const QString& s
 {
     ui->setupUi(this);
     m_pHome = new HomePage(ui->tabPages);
-    ui->tabPages->addTab(m_pHome, tr("Home"));
-    for (const QTabBar::ButtonPosition side : {QTabBar::LeftSide, QTabBar::RightSide}) {
-        ui->tabPages->tabBar()->setTabButton(0, side, nullptr);
-    }
+    m_pPages = new PageTabs(*ui->tabPages, *m_pHome, this);
+    m_pUnsavedWork = new UnsavedWork(*m_pPages, *this, this);
     BuildStatusBar();
     BuildMenus();
     connect(m_pHome, &HomePage::SignalOpen, this, &MainWindow::OpenPage);
-    connect(ui->tabPages, &QTabWidget::currentChanged, this, &MainWindow::OnTabChanged);
+    connect(m_pPages, &PageTabs::SignalCurrentChanged, this, &MainWindow::OnTabChanged);
+    connect(m_pPages, &PageTabs::SignalModifiedChanged, this, &MainWindow::UpdateTitle);
     connect(ui->tabPages, &QTabWidget::tabCloseRequested, this, &MainWindow::ClosePage);
     connect(m_pStatus, &PageStatus::SignalChanged, this, &MainWindow::RefreshStatus);
     OnTabChanged();
@@ -65,9 +63,9 @@ MainWindow::MainWindow(ClientSettings& settings, UserRole role, const QString& s
 
 MainWindow::~MainWindow()
 {
-    // Tabs that go one by one with the widget tree would still announce themselves to a half destroyed
-    // window.
-    ui->tabPages->disconnect(this);
+    // Pages that go with the widget tree would still announce themselves to a half destroyed window.
+    m_pPages->disconnect(this);
+    delete m_pPages;
 }
 
 void MainWindow::BuildStatusBar()
@@ -78,6 +76,9 @@ void MainWindow::BuildStatusBar()
     m_pSaving = new SaveIndicator(this);
     ui->statusBar->addPermanentWidget(m_pSaving);
     m_pSaving->hide(); // a status bar shows what it is given
+    m_pEnabled = new QLabel(this);
+    m_pEnabled->setObjectName(QStringLiteral("lblEnabledSchemes"));
+    ui->statusBar->addPermanentWidget(m_pEnabled);
     m_pUnsaved = new QLabel(tr("Not saved"), this);
     m_pUnsaved->setObjectName(QStringLiteral("lblUnsaved"));
     ui->statusBar->addPermanentWidget(m_pUnsaved);
@@ -94,12 +95,15 @@ void MainWindow::BuildStatusBar()
 void MainWindow::BuildMenus()
 {
     connect(ui->actionSave, &QAction::triggered, this, &MainWindow::OnSave);
+    connect(ui->actionReload, &QAction::triggered, this, &MainWindow::ReloadPages);
     connect(ui->actionCloseTab, &QAction::triggered, this,
             [this] { ClosePage(ui->tabPages->currentIndex()); });
     connect(ui->actionQuit, &QAction::triggered, this, &QWidget::close);
     connect(ui->actionMail, &QAction::triggered, this, &MainWindow::OpenMailSettings);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::OnAbout);
     connect(ui->actionDataDirectory, &QAction::triggered, this, &MainWindow::OnDataDirectory);
+    m_pEditActions = new EditActions({ui->actionUndo, ui->actionRedo, ui->actionFind}, this);
+    connect(ui->menuEdit, &QMenu::aboutToShow, m_pEditActions, &EditActions::OnChanged);
     ui->actionMail->setEnabled(QCommon::CheckMenuRight(QCommon::RightSystemConfig));
 
     const QActionGroup* pLanguages =
@@ -149,109 +153,83 @@ bool MainWindow::OpenPage(const QString& strKey)
         AddProblem(tr("Module %1: %2").arg(problem.strName, problem.strReason));
         return false;
     }
-    int iTab = ui->tabPages->indexOf(pPage);
-    if (iTab < 0) {
-        const PluginInfo info = m_pPlugins->Info(iPlugin);
-        pPage->setProperty(ModuleKeyProperty, strKey);
-        iTab = ui->tabPages->addTab(pPage, info.strTabTitle);
-    }
-    ui->tabPages->setCurrentIndex(iTab);
+    m_pPages->Show(pPage, strKey, m_pPlugins->Info(iPlugin).strTabTitle);
     return true;
 }
 
 void MainWindow::ClosePage(int iTab)
 {
-    QWidget* pPage = ui->tabPages->widget(iTab);
-    if (pPage == nullptr || pPage == m_pHome) {
+    const QPointer<QWidget> page = m_pPages->At(iTab);
+    if (page.isNull()) {
         return;
     }
-    // The page keeps its parent, so it stays in the window's widget tree with all edits, and comes back with
-    // them when its tile is opened again.
-    ui->tabPages->removeTab(iTab);
-    pPage->hide();
+    const auto again = [this, page] {
+        if (page) {
+            ClosePage(ui->tabPages->indexOf(page));
+        }
+    };
+    if (!m_pUnsavedWork->MayCloseTab(page, again) || page.isNull()) {
+        return;
+    }
+    if (page->isWindowModified()) {
+        m_pPages->Discard(page);
+    } else {
+        m_pPages->Hide(page);
+    }
 }
 
 void MainWindow::DestroyPages()
 {
     m_pStatus->SetPage(nullptr);
-    ui->tabPages->disconnect(this);
-    for (int i = ui->tabPages->count() - 1; i >= 0; --i) {
-        QWidget* pPage = ui->tabPages->widget(i);
-        if (pPage != m_pHome) {
-            ui->tabPages->removeTab(i);
-        }
-    }
-    const QList<QPointer<QWidget>> pages = AllPages();
-    for (const QPointer<QWidget>& page : pages) {
-        delete page.data();
-    }
+    m_pEditActions->SetPage(nullptr);
+    m_pPages->disconnect(this);
+    m_pPages->DestroyAll();
     m_pPlugins = nullptr;
 }
 
-QList<QPointer<QWidget>> MainWindow::AllPages() const
+bool MainWindow::ReloadPages()
 {
-    const QList<QWidget*> candidates = ui->tabPages->findChildren<QWidget*>();
-    QList<QPointer<QWidget>> pages;
-    for (QWidget* pCandidate : candidates) {
-        if (pCandidate->property(ModuleKeyProperty).isValid()) {
-            pages.append(pCandidate);
-        }
+    if (!m_pUnsavedWork->MayReload([this] { ReloadPages(); })) {
+        return false;
     }
-    return pages;
-}
-
-void MainWindow::ReloadPages()
-{
     const int iCurrent = ui->tabPages->currentIndex();
-    const QList<QPointer<QWidget>> pages = AllPages();
+    const QList<QPointer<QWidget>> pages = m_pPages->All();
     for (const QPointer<QWidget>& page : pages) {
-        if (page.isNull() || !PageStatus::CanSave(page)) {
+        if (page.isNull() || !PageAccess::CanSave(page)) {
             continue;
         }
         const QString strKey = KeyOfPage(page);
-        const int iTab = ui->tabPages->indexOf(page);
-        if (iTab >= 0) {
-            ui->tabPages->removeTab(iTab);
-        }
-        delete page.data();
+        const int iTab = m_pPages->IndexOf(page);
+        m_pPages->Discard(page);
         if (iTab >= 0 && OpenPage(strKey)) {
-            ui->tabPages->tabBar()->moveTab(ui->tabPages->currentIndex(), iTab);
+            m_pPages->Move(m_pPages->Current(), iTab);
         }
     }
     ui->tabPages->setCurrentIndex(iCurrent);
     ShowUnsaved(false);
+    return true;
 }
 
 void MainWindow::FollowSaves(AlarmSchemeStoreBackend* pStore)
 {
     m_pSaving->Follow(pStore);
+    m_pUnsavedWork->Follow(pStore);
 }
 
 void MainWindow::ShowUnsaved(bool bUnsaved)
 {
     m_pUnsaved->setVisible(bUnsaved);
-}
-
-void MainWindow::SetCloseGuard(std::function<bool()> guard)
-{
-    m_closeGuard = std::move(guard);
+    m_pUnsavedWork->SetSaveFailed(bUnsaved);
 }
 
 QList<QPointer<QWidget>> MainWindow::OpenPages() const
 {
-    QList<QPointer<QWidget>> pages;
-    for (int i = 0; i < ui->tabPages->count(); ++i) {
-        QWidget* pPage = ui->tabPages->widget(i);
-        if (pPage != m_pHome) {
-            pages.append(pPage);
-        }
-    }
-    return pages;
+    return m_pPages->Open();
 }
 
 QString MainWindow::KeyOfPage(QWidget* pPage) const
 {
-    return pPage == nullptr ? QString() : pPage->property(ModuleKeyProperty).toString();
+    return PageTabs::Key(pPage);
 }
 
 void MainWindow::AddProblem(const QString& strText)
@@ -318,7 +296,7 @@ bool MainWindow::event(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_closeGuard && !m_closeGuard()) {
+    if (!m_pUnsavedWork->MayClose()) {
         event->ignore();
         return;
     }
@@ -328,12 +306,22 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::OnTabChanged()
 {
-    QWidget* pPage = CurrentPage();
+    QWidget* pPage = m_pPages->Current();
     m_pStatus->SetPage(pPage);
+    m_pEditActions->SetPage(pPage);
     ui->actionCloseTab->setEnabled(pPage != nullptr);
+    ui->actionFind->setEnabled(pPage != nullptr);
     ui->actionSave->setEnabled(m_pStatus->CanSave());
-    const QString strTab = pPage == nullptr ? QString() : ui->tabPages->tabText(ui->tabPages->currentIndex());
-    setWindowTitle(strTab.isEmpty() ? tr("ACS Client") : tr("%1 - ACS Client").arg(strTab));
+    ui->actionReload->setEnabled(m_pStatus->CanSave());
+    UpdateTitle();
+}
+
+void MainWindow::UpdateTitle()
+{
+    const QWidget* const pPage = m_pPages->Current();
+    const QString strTitle = PageTabs::Title(pPage);
+    setWindowTitle(strTitle.isEmpty() ? tr("ACS Client") : tr("%1[*] - ACS Client").arg(strTitle));
+    setWindowModified(pPage != nullptr && pPage->isWindowModified());
 }
 
 void MainWindow::OnLanguage(QAction* pAction)
@@ -373,12 +361,9 @@ void MainWindow::OnDataDirectory()
 void MainWindow::RefreshStatus()
 {
     const QString strEdited = m_pStatus->Text();
-    const bool bPage = CurrentPage() != nullptr;
+    const bool bPage = m_pPages->Current() != nullptr;
     m_pEdited->setText(!strEdited.isEmpty() ? strEdited : bPage ? tr("No event is selected.") : QString());
-}
-
-QWidget* MainWindow::CurrentPage() const
-{
-    QWidget* pPage = ui->tabPages->currentWidget();
-    return pPage == m_pHome ? nullptr : pPage;
+    const int iEnabled = m_pStatus->EnabledSchemes();
+    m_pEnabled->setText(iEnabled < 0 ? QString() : tr("%n scheme(s) on", nullptr, iEnabled));
+    m_pEnabled->setVisible(iEnabled >= 0);
 }

@@ -5,18 +5,20 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
 class AlarmSchemeStoreBackend;
 class ClientSettings;
+class EditActions;
 class ElidedLabel;
 class HomePage;
 class PageStatus;
+class PageTabs;
 class PluginLoader;
 class QActionGroup;
 class QLabel;
 class SaveIndicator;
+class UnsavedWork;
 struct SchemeStoreOutcome;
 
 namespace Ui {
@@ -39,21 +41,24 @@ public:
     void SetPlugins(PluginLoader* pPlugins);
     /// Opens a module's page, or brings it to the front. False (and a note) when that is not possible.
     bool OpenPage(const QString& strKey);
-    void ClosePage(int iTab); ///< takes the tab away; the page keeps its edits until the window goes
-    void DestroyPages();      ///< after that no module has anything left in this window
+    /// Takes the tab away. A page without unsaved edits keeps everything it shows until the window goes;
+    /// about unsaved edits the operator is asked first, and a page whose edits are discarded goes with them.
+    void ClosePage(int iTab);
+    void DestroyPages();                        ///< after that no module has anything left in this window
     QList<QPointer<QWidget>> OpenPages() const; ///< in the order of the tabs
     QString KeyOfPage(QWidget* pPage) const;    ///< empty for the home page and for strangers
+    PageTabs& Pages() const { return *m_pPages; }
+    UnsavedWork& Unsaved() const { return *m_pUnsavedWork; }
 
     /// A problem of the start: a line on the home page and a note.
     void AddProblem(const QString& strText);
     void SetSite(const QString& strFile, int iDevices);
     void ShowSaveOutcome(const SchemeStoreOutcome& outcome);
-    void FollowSaves(AlarmSchemeStoreBackend* pStore); ///< shows in the status bar how far they are
-    void ShowUnsaved(bool bUnsaved);                   ///< in the status bar: the last save failed
-    /// Destroys every page that can save, with its edits, and opens those again that were open.
-    void ReloadPages();
-    /// Is asked before the window closes; false keeps it open. Null removes it.
-    void SetCloseGuard(std::function<bool()> guard);
+    void FollowSaves(AlarmSchemeStoreBackend* pStore); ///< shows how far they are, and waits for them
+    void ShowUnsaved(bool bUnsaved);                   ///< the last save failed, or has succeeded
+    /// Destroys every page that can save, with its edits, and opens those again that were open. About unsaved
+    /// edits the operator is asked first; false when the pages stay as they are for now.
+    bool ReloadPages();
     void OpenMailSettings(); ///< returns when the dialog is closed
 
     HomePage* Home() const { return m_pHome; }
@@ -72,14 +77,13 @@ private:
     QActionGroup* BuildChoice(const QList<QAction*>& actions, const QStringList& values,
                               const QString& strCurrent);
     void OnTabChanged();
+    void UpdateTitle();
     void OnLanguage(QAction* pAction);
     void OnTheme(QAction* pAction);
     void OnSave();
     void OnAbout();
     void OnDataDirectory();
     void RefreshStatus();
-    QWidget* CurrentPage() const;              ///< null on the home page
-    QList<QPointer<QWidget>> AllPages() const; ///< those of closed tabs too
 
     std::unique_ptr<Ui::MainWindow> ui;
     ClientSettings& m_settings;
@@ -87,10 +91,13 @@ private:
     QString m_strDataDirectory;
     PluginLoader* m_pPlugins = nullptr;
     HomePage* m_pHome;
+    PageTabs* m_pPages;
+    UnsavedWork* m_pUnsavedWork;
+    EditActions* m_pEditActions;
     PageStatus* m_pStatus;
     ElidedLabel* m_pEdited;
+    QLabel* m_pEnabled;
     QLabel* m_pSite;
     QLabel* m_pUnsaved;
     SaveIndicator* m_pSaving;
-    std::function<bool()> m_closeGuard;
 };

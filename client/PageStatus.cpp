@@ -1,14 +1,13 @@
 #include "client/PageStatus.h"
 
-#include <QMetaMethod>
-#include <QMetaProperty>
-#include <QVariant>
+#include "client/PageAccess.h"
+
 #include <QWidget>
 
 namespace {
 
 const char* const EditedSchemeProperty = "editedScheme";
-const char* const SaveSlot = "OnSave()";
+const char* const EnabledSchemesProperty = "enabledSchemes";
 
 } // namespace
 
@@ -29,37 +28,33 @@ void PageStatus::SetPage(QWidget* pPage)
     }
     m_page = pPage;
     if (m_page) {
-        const QMetaObject* pMeta = m_page->metaObject();
-        const int iProperty = pMeta->indexOfProperty(EditedSchemeProperty);
-        if (iProperty >= 0 && pMeta->property(iProperty).hasNotifySignal()) {
-            QMetaObject::connect(m_page, pMeta->property(iProperty).notifySignalIndex(), this,
-                                 metaObject()->indexOfSlot("OnEditedSchemeChanged()"));
-        }
+        PageAccess::Follow(m_page, EditedSchemeProperty, this, "OnChanged()");
+        PageAccess::Follow(m_page, EnabledSchemesProperty, this, "OnChanged()");
     }
     Q_EMIT SignalChanged();
 }
 
 QString PageStatus::Text() const
 {
-    return m_page ? m_page->property(EditedSchemeProperty).toString() : QString();
+    return PageAccess::TextProperty(m_page, EditedSchemeProperty);
+}
+
+int PageStatus::EnabledSchemes() const
+{
+    return PageAccess::IntProperty(m_page, EnabledSchemesProperty, -1);
 }
 
 bool PageStatus::CanSave() const
 {
-    return CanSave(m_page);
-}
-
-bool PageStatus::CanSave(const QWidget* pPage)
-{
-    return pPage != nullptr && pPage->metaObject()->indexOfSlot(SaveSlot) >= 0;
+    return PageAccess::CanSave(m_page);
 }
 
 bool PageStatus::Save()
 {
-    return CanSave() && QMetaObject::invokeMethod(m_page, "OnSave", Qt::DirectConnection);
+    return PageAccess::Save(m_page);
 }
 
-void PageStatus::OnEditedSchemeChanged()
+void PageStatus::OnChanged()
 {
     Q_EMIT SignalChanged();
 }

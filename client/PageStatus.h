@@ -6,9 +6,8 @@
 
 class QWidget;
 
-/// Follows what the current page says that it edits. A page tells it through a property "editedScheme" with a
-/// notification signal and saves through a slot "OnSave()"; both are looked up by name, since the client
-/// knows no page's class, and a page may have neither.
+/// Follows what the current page says: what it edits, by a property "editedScheme", and how many schemes are
+/// switched on, by "enabledSchemes", both with a notification signal. A page may tell neither.
 class PageStatus : public QObject
 {
     Q_OBJECT
@@ -19,15 +18,15 @@ public:
 
     void SetPage(QWidget* pPage); ///< null: no page
     QString Text() const;         ///< what the page edits; empty when it edits nothing or does not say
+    int EnabledSchemes() const;   ///< -1 when the page does not say
     bool CanSave() const;
-    static bool CanSave(const QWidget* pPage); ///< whether a page, which may be null, has the slot
-    bool Save();                               ///< false when the page cannot save
+    bool Save(); ///< false when the page cannot save
 
 Q_SIGNALS:
     void SignalChanged();
 
 private Q_SLOTS:
-    void OnEditedSchemeChanged();
+    void OnChanged();
 
 private:
     QPointer<QWidget> m_page;

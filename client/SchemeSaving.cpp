@@ -3,12 +3,8 @@
 #include "client/MainWindow.h"
 #include "client/SchemeConflictDialog.h"
 #include "client/SchemeDamageDialog.h"
+#include "client/UnsavedWork.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
-#include "platform/LXGUI/LXMessageBox.h"
-#include "platform/LXGUI/LXMessageNotify.h"
-
-using LXGUI::LXMessageBox;
-using LXGUI::LXMessageNotify;
 
 SchemeSaving::SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, QObject* parent)
     : QObject(parent)
@@ -30,13 +26,11 @@ SchemeSaving::SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, Q
             QMetaObject::invokeMethod(self.data(), &SchemeSaving::Reload, Qt::QueuedConnection);
         }
     });
-    connect(&store, &AlarmSchemeStoreBackend::SignalSavingChanged, this, &SchemeSaving::OnSavingChanged);
     store.SetDamageHandler([self](const SchemeDamage& damage) {
         return self.isNull() || self->m_window.isNull() ? SchemeDamageAnswer::LeaveAlone
                                                         : SchemeDamageDialog::Ask(damage, self->m_window);
     });
     window.FollowSaves(&store);
-    window.SetCloseGuard([self] { return self.isNull() || self->MayClose(); });
 }
 
 SchemeSaving::~SchemeSaving() = default;
@@ -48,43 +42,11 @@ void SchemeSaving::WaitForSaves()
     }
 }
 
-bool SchemeSaving::MayClose()
-{
-    if (!m_store.isNull() && m_store->IsSaving()) {
-        m_bCloseWhenSaved = true;
-        LXGUI::LXSingleton<LXMessageNotify>::Instance()->AddTextNotification(
-            tr("The schemes are being saved. The program closes when that is done."),
-            LXMessageNotify::Information);
-        return false;
-    }
-    if (!m_bUnsaved || m_window.isNull()) {
-        return true;
-    }
-    const QPointer<SchemeSaving> self(this);
-    const int iAnswer = LXMessageBox::ShowWarning(
-        m_window, tr("Changes are not saved"),
-        tr("The last save failed. Close the program all the same and lose the changes?"),
-        LXMessageBox::ButtonOk | LXMessageBox::ButtonNo);
-    return self.isNull() || iAnswer == LXMessageBox::ButtonOk;
-}
-
 void SchemeSaving::OnOutcome(const SchemeStoreOutcome& outcome)
 {
     SetUnsaved(outcome.eOperation == SchemeStoreOutcome::Operation::Save && !outcome.IsSuccess());
     if (!m_window.isNull()) {
         m_window->ShowSaveOutcome(outcome);
-    }
-}
-
-void SchemeSaving::OnSavingChanged(bool bSaving)
-{
-    if (bSaving || !m_bCloseWhenSaved) {
-        return;
-    }
-    m_bCloseWhenSaved = false;
-    // After a failure the operator decides anew.
-    if (!m_bUnsaved && !m_window.isNull()) {
-        QMetaObject::invokeMethod(m_window.data(), &QWidget::close, Qt::QueuedConnection);
     }
 }
 
@@ -102,8 +64,8 @@ SchemeConflictAnswer SchemeSaving::Ask(const SchemeConflict& conflict)
 
 void SchemeSaving::Reload()
 {
-    if (!m_window.isNull()) {
-        m_window->ReloadPages();
+    if (!m_window.isNull() && !m_window->ReloadPages()) {
+        SetUnsaved(true); // the save before it has failed, and its edits stay
     }
 }
 
@@ -112,5 +74,8 @@ void SchemeSaving::SetUnsaved(bool bUnsaved)
     m_bUnsaved = bUnsaved;
     if (!m_window.isNull()) {
         m_window->ShowUnsaved(bUnsaved);
+        if (bUnsaved) {
+            m_window->Unsaved().MarkPagesUnsaved();
+        }
     }
 }

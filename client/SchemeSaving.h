@@ -10,7 +10,7 @@ class AlarmSchemeStoreBackend;
 class MainWindow;
 
 /// Between the scheme store and the window: brings outcomes, questions and progress to the operator, and
-/// keeps the window open until everything is saved. User-interface thread only.
+/// tells the pages when what they saved did not reach the disk. User-interface thread only.
 class SchemeSaving : public QObject
 {
     Q_OBJECT
@@ -23,13 +23,9 @@ public:
     /// Whether the last save failed, so that the file does not hold what the pages show.
     bool IsUnsaved() const { return m_bUnsaved; }
     void WaitForSaves(); ///< returns when nothing is being saved
-    /// Whether the window may close now. When not, the operator was told, and the window closes by itself
-    /// once everything is saved.
-    bool MayClose();
 
 private:
     void OnOutcome(const SchemeStoreOutcome& outcome);
-    void OnSavingChanged(bool bSaving);
     SchemeConflictAnswer Ask(const SchemeConflict& conflict);
     void Reload();
     void SetUnsaved(bool bUnsaved);
@@ -37,5 +33,4 @@ private:
     QPointer<AlarmSchemeStoreBackend> m_store;
     QPointer<MainWindow> m_window;
     bool m_bUnsaved = false;
-    bool m_bCloseWhenSaved = false;
 };

@@ -48,7 +48,6 @@ private Q_SLOTS:
     void theSiteIsNamedWithItsDevices();
     void outcomesOfSavingAreNotes();
     void reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs();
-    void theGuardKeepsTheWindowOpen();
     void whatIsUnsavedIsShown();
 
 private:
@@ -233,6 +232,8 @@ void TestMainWindow::messageTwentyTwoRunsTheMailSettingsToTheirEnd()
                          QStringLiteral("mail.example.com"));
         QTest::keyClicks(pDialog->findChild<QLineEdit*>(QStringLiteral("edtSender")),
                          QStringLiteral("guard@example.com"));
+        QTest::keyClicks(pDialog->findChild<QLineEdit*>(QStringLiteral("edtRecipients")),
+                         QStringLiteral("desk@example.com"));
         QTest::mouseClick(pDialog->GetButton(QDialogButtonBox::Ok), Qt::LeftButton);
     });
     QVERIFY(QCommon::QtSendMessage(m_window.get(), 22, 0, 0));
@@ -346,18 +347,6 @@ void TestMainWindow::reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs()
     QVERIFY(TestModules::TakeCalls().contains(QStringLiteral("good:page destroyed")));
     QCOMPARE(m_window->OpenPages().size(), 1);
     QVERIFY(m_window->OpenPage(QStringLiteral("good")));
-}
-
-void TestMainWindow::theGuardKeepsTheWindowOpen()
-{
-    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
-    bool bMayClose = false;
-    m_window->SetCloseGuard([&bMayClose] { return bMayClose; });
-    QVERIFY(!m_window->close());
-    QVERIFY(m_window->isVisible() && closing.isEmpty());
-    bMayClose = true;
-    QVERIFY(m_window->close());
-    QCOMPARE(closing.count(), 1);
 }
 
 void TestMainWindow::whatIsUnsavedIsShown()

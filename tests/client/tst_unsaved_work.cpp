@@ -1,0 +1,381 @@
+#include "DialogAnswer.h"
+#include "TellingPage.h"
+
+#include "client/ClientSettings.h"
+#include "client/MainWindow.h"
+#include "client/PageTabs.h"
+#include "client/QuestionDialog.h"
+#include "client/SchemeSaving.h"
+#include "client/UnsavedWork.h"
+#include "client/store/AlarmSchemeStoreBackend.h"
+#include "platform/LXGUI/LXMessageNotify.h"
+#include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client_store/OtherProgram.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+const QString ForWriting = QStringLiteral("begin immediate");
+constexpr std::chrono::milliseconds TooLong{60000};
+const AlarmSourceKey SomeKey{QStringLiteral("1$1$0$1"), 3};
+const char* const Escape = "none";
+
+} // namespace
+
+/// Edits that would be lost, and everything that could lose them.
+class TestUnsavedWork : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void nothingIsAskedWhileNothingIsUnsaved();
+    void closingTheWindowAsks();
+    void theQuestionNamesThePages();
+    void aSecondQuestionDoesNotOpenOverTheFirst();
+    void discardingClosesTheWindow();
+    void savingClosesTheWindowOnlyOnceItIsOnTheDisk();
+    void aSaveThatFailsOnTheDiskKeepsTheWindowOpen();
+    void aSaveThatIsRefusedKeepsTheWindowOpen();
+    void editsDuringTheSaveAreAskedAboutAgain();
+    void aTabAsksBeforeItCloses();
+    void aTabClosesOnceItsPageIsOnTheDisk();
+    void aHiddenPageIsAskedAboutToo();
+    void loadingAnewAsks();
+    void loadingAnewWaitsForTheSave();
+    void aSessionEndAsks();
+    void aSessionEndWaitsForTheSave();
+    void aSessionEndIsStoppedByASaveThatFails();
+    void aSessionEndThatMayNotAskGoesOn();
+    void pagesAreToldWhenASaveFailed();
+    void ctrlSSaves();
+    void theWindowTitleShowsIt();
+    void aParentThatDiesMeansNothing();
+
+private:
+    bool Store(bool bGood)
+    {
+        AlarmInfoMap map = m_map;
+        map[SomeKey].bOpen = !map.value(SomeKey).bOpen;
+        if (!bGood) {
+            map.insert({QStringLiteral("a\"b"), 1}, AlarmInfo());
+        }
+        return m_store->Save(map) == 0;
+    }
+    QTabWidget* Tabs() const { return m_window->findChild<QTabWidget*>(QStringLiteral("tabPages")); }
+
+    std::unique_ptr<LogCatcher> m_log;
+    std::unique_ptr<StoreFolder> m_folder;
+    std::unique_ptr<ClientSettings> m_settings;
+    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<AlarmSchemeStoreBackend> m_store;
+    std::unique_ptr<SchemeSaving> m_saving;
+    std::unique_ptr<DialogAnswer> m_answer;
+    QPointer<TellingPage> m_page;
+    AlarmInfoMap m_map;
+};
+
+void TestUnsavedWork::init()
+{
+    m_log = std::make_unique<LogCatcher>();
+    m_folder = std::make_unique<StoreFolder>();
+    m_settings =
+        std::make_unique<ClientSettings>(QDir(m_folder->Root()).filePath(QStringLiteral("client.ini")));
+    m_window = std::make_unique<MainWindow>(*m_settings, UserRole::Administrator, m_folder->Root());
+    m_store = std::make_unique<AlarmSchemeStoreBackend>();
+    m_saving = std::make_unique<SchemeSaving>(*m_store, *m_window);
+    m_page = new TellingPage;
+    m_window->Pages().Show(m_page, QStringLiteral("page"), QStringLiteral("The page"));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_map.clear();
+    QCOMPARE(m_store->Load(m_map), 0);
+    m_page->m_save = [this] { return Store(true); };
+}
+
+void TestUnsavedWork::cleanup()
+{
+    m_answer.reset();
+    m_store.reset();
+    m_saving.reset();
+    m_window.reset();
+    m_settings.reset();
+    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
+    m_folder.reset();
+    m_log.reset();
+}
+
+void TestUnsavedWork::nothingIsAskedWhileNothingIsUnsaved()
+{
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    m_page->Edit(QStringLiteral("x"));
+    m_page->Undo();
+    QVERIFY(m_window->close());
+    QVERIFY(!m_answer->WasGiven());
+}
+
+void TestUnsavedWork::closingTheWindowAsks()
+{
+    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
+    const QSignalSpy discarded(&m_window->Unsaved(), &UnsavedWork::SignalDiscarded);
+    m_page->Edit(QStringLiteral("x"));
+    for (const char* szButton : {Escape, "btnNothing"}) {
+        m_answer = std::make_unique<DialogAnswer>(szButton);
+        QVERIFY(!m_window->close());
+    }
+    QVERIFY(m_window->isVisible() && closing.isEmpty() && discarded.isEmpty());
+    QCOMPARE(m_page->Saves(), 0);
+    QVERIFY(m_page->isWindowModified());
+}
+
+void TestUnsavedWork::theQuestionNamesThePages()
+{
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(!m_window->close());
+    QVERIFY2(m_answer->Question().contains(QStringLiteral("The page")), qPrintable(m_answer->Question()));
+    // What a hurried Return does loses nothing.
+    const QuestionDialog dialog({QString(), QString(), QString(), QString(), QString()});
+    QVERIFY(dialog.findChild<QPushButton*>(QStringLiteral("btnKeep"))->isDefault());
+    QVERIFY(dialog.GetAnswer() == QuestionDialog::Answer::Nothing);
+}
+
+void TestUnsavedWork::aSecondQuestionDoesNotOpenOverTheFirst()
+{
+    m_page->Edit(QStringLiteral("x"));
+    bool bReloaded = true;
+    QTimer::singleShot(0, this, [this, &bReloaded] {
+        m_window->close();
+        bReloaded = m_window->ReloadPages();
+        QCOMPARE(m_window->findChildren<QuestionDialog*>().size(), 1);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    QVERIFY(!m_window->close());
+    QVERIFY(!bReloaded);
+    QVERIFY(m_window->isVisible());
+}
+
+void TestUnsavedWork::discardingClosesTheWindow()
+{
+    const QSignalSpy discarded(&m_window->Unsaved(), &UnsavedWork::SignalDiscarded);
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    QVERIFY(m_window->close());
+    QCOMPARE(discarded.count(), 1);
+    QCOMPARE(m_page->Saves(), 0);
+}
+
+void TestUnsavedWork::savingClosesTheWindowOnlyOnceItIsOnTheDisk()
+{
+    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->close());
+    QCOMPARE(m_page->Saves(), 1);
+    QVERIFY(m_window->isVisible() && closing.isEmpty() && m_store->IsSaving());
+    other.Release();
+    QTRY_COMPARE(closing.count(), 1);
+    QVERIFY(!m_window->isVisible());
+    QVERIFY(!m_store->IsSaving() && m_store->LastOutcome().IsSuccess());
+    AlarmInfoMap stored;
+    QCOMPARE(m_store->Load(stored), 0);
+    QVERIFY(stored.value(SomeKey).bOpen);
+}
+
+void TestUnsavedWork::aSaveThatFailsOnTheDiskKeepsTheWindowOpen()
+{
+    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
+    m_page->m_save = [this] { return Store(false); };
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->close());
+    QVERIFY(!m_page->isWindowModified()); // the map was taken; the page knows no better
+    QTRY_VERIFY(!m_store->IsSaving());
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(m_window->isVisible() && closing.isEmpty());
+    QVERIFY(m_page->isWindowModified()); // it was told
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    QVERIFY(m_window->close());
+}
+
+void TestUnsavedWork::aSaveThatIsRefusedKeepsTheWindowOpen()
+{
+    m_page->m_save = [] { return false; };
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible() && m_page->isWindowModified());
+}
+
+void TestUnsavedWork::editsDuringTheSaveAreAskedAboutAgain()
+{
+    const QSignalSpy closing(m_window.get(), &MainWindow::SignalClosing);
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->close());
+    QVERIFY(m_answer->WasGiven());
+    m_page->Edit(QStringLiteral("y"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    other.Release();
+    QTRY_VERIFY(m_answer->WasGiven());
+    QVERIFY(m_window->isVisible() && closing.isEmpty());
+}
+
+void TestUnsavedWork::aTabAsksBeforeItCloses()
+{
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    m_window->ClosePage(1);
+    QCOMPARE(Tabs()->count(), 2);
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    m_window->ClosePage(1);
+    QCOMPARE(Tabs()->count(), 1);
+    QVERIFY(m_page.isNull());
+}
+
+void TestUnsavedWork::aTabClosesOnceItsPageIsOnTheDisk()
+{
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    m_window->ClosePage(1);
+    QCOMPARE(Tabs()->count(), 2);
+    other.Release();
+    QTRY_COMPARE(Tabs()->count(), 1);
+    QVERIFY(!m_page.isNull() && !m_page->isWindowModified());
+    // A save that fails keeps the tab.
+    m_window->Pages().Show(m_page, QStringLiteral("page"), QStringLiteral("The page"));
+    m_page->m_save = [this] { return Store(false); };
+    m_page->Edit(QStringLiteral("y"));
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    m_window->ClosePage(1);
+    QTRY_VERIFY(!m_store->IsSaving());
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(Tabs()->count(), 2);
+}
+
+void TestUnsavedWork::aHiddenPageIsAskedAboutToo()
+{
+    m_window->ClosePage(1);
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(!m_window->close());
+}
+
+void TestUnsavedWork::loadingAnewAsks()
+{
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(!m_window->ReloadPages());
+    QVERIFY(!m_page.isNull());
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    QVERIFY(m_window->ReloadPages());
+    QVERIFY(m_page.isNull());
+}
+
+void TestUnsavedWork::loadingAnewWaitsForTheSave()
+{
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->ReloadPages());
+    QVERIFY(!m_page.isNull());
+    other.Release();
+    QTRY_VERIFY(m_page.isNull());
+    QVERIFY(m_store->LastOutcome().IsSuccess());
+}
+
+void TestUnsavedWork::aSessionEndAsks()
+{
+    QVERIFY(m_window->Unsaved().MayEndSession(true)); // nothing is unsaved
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(!m_window->Unsaved().MayEndSession(true));
+    const QSignalSpy discarded(&m_window->Unsaved(), &UnsavedWork::SignalDiscarded);
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    QVERIFY(m_window->Unsaved().MayEndSession(true));
+    QCOMPARE(discarded.count(), 1);
+    QVERIFY(m_window->isVisible()); // another program may still stop it
+}
+
+void TestUnsavedWork::aSessionEndWaitsForTheSave()
+{
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(m_window->Unsaved().MayEndSession(true));
+    QVERIFY(!m_store->IsSaving() && m_store->LastOutcome().IsSuccess());
+}
+
+void TestUnsavedWork::aSessionEndIsStoppedByASaveThatFails()
+{
+    m_page->m_save = [this] { return Store(false); };
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>("btnKeep");
+    QVERIFY(!m_window->Unsaved().MayEndSession(true));
+    QVERIFY(m_page->isWindowModified());
+}
+
+void TestUnsavedWork::aSessionEndThatMayNotAskGoesOn()
+{
+    m_page->Edit(QStringLiteral("x"));
+    QVERIFY(m_window->Unsaved().MayEndSession(false));
+    QCOMPARE(m_page->Saves(), 0); // nobody has said that it is to be saved
+}
+
+void TestUnsavedWork::pagesAreToldWhenASaveFailed()
+{
+    QVERIFY(Store(false));
+    QTRY_VERIFY(!m_store->IsSaving());
+    QVERIFY(m_page->isWindowModified());
+    QVERIFY(Store(true));
+    QTRY_VERIFY(!m_store->IsSaving());
+    QVERIFY(!m_saving->IsUnsaved());
+}
+
+void TestUnsavedWork::ctrlSSaves()
+{
+    m_page->Edit(QStringLiteral("x"));
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m_page->Saves(), 1);
+    QVERIFY(!m_page->isWindowModified());
+}
+
+void TestUnsavedWork::theWindowTitleShowsIt()
+{
+    QVERIFY(!m_window->isWindowModified());
+    m_page->Edit(QStringLiteral("x"));
+    QVERIFY(m_window->isWindowModified());
+    QVERIFY(m_window->windowTitle().contains(QStringLiteral("[*]")));
+    Tabs()->setCurrentIndex(0);
+    QVERIFY(!m_window->isWindowModified());
+}
+
+void TestUnsavedWork::aParentThatDiesMeansNothing()
+{
+    auto* const pParent = new QWidget;
+    QTimer::singleShot(0, pParent, [pParent] { delete pParent; });
+    const QuestionDialog::Answer eAnswer =
+        QuestionDialog::Ask({QStringLiteral("t"), QStringLiteral("q"), QStringLiteral("a"),
+                             QStringLiteral("b"), QStringLiteral("c")},
+                            pParent);
+    QVERIFY(eAnswer == QuestionDialog::Answer::Nothing);
+}
+
+QTEST_MAIN(TestUnsavedWork)
+#include "tst_unsaved_work.moc"
