@@ -1,5 +1,13 @@
 #include "client/ClientSettings.h"
 
+#include "client/ClientLog.h"
+#include "client/MailCheck.h"
+#include "client/mail/MailPasswords.h"
+
+#include <QFileInfo>
+
+#include <array>
+
 namespace {
 
 const QLatin1String KeyLanguage("client/language");
@@ -13,8 +21,32 @@ const QLatin1String KeyHost("host");
 const QLatin1String KeyPort("port");
 const QLatin1String KeyUser("user");
 const QLatin1String KeySender("sender");
+const QLatin1String KeyEncryption("encryption");
+const QLatin1String KeyRecipients("recipients");
+const QLatin1String KeyCertificateFile("certificateFile");
+/// In the order of SystemMailEncryption.
+constexpr std::array<const char*, 3> EncryptionNames{{"none", "starttls", "tls"}};
 constexpr int DefaultPort = 25;
 constexpr int LastPort = 65535;
+
+QString NameOf(SystemMailEncryption eEncryption)
+{
+    return QLatin1String(EncryptionNames.at(static_cast<size_t>(eEncryption)));
+}
+
+/// A file that says nothing was written before there was a choice; a word that is not known asks for safety.
+SystemMailEncryption EncryptionOf(const QString& strName)
+{
+    if (strName.isEmpty()) {
+        return SystemMailEncryption::None;
+    }
+    for (const SystemMailEncryption e : {SystemMailEncryption::None, SystemMailEncryption::Tls}) {
+        if (strName == NameOf(e)) {
+            return e;
+        }
+    }
+    return SystemMailEncryption::StartTls;
+}
 
 } // namespace
 
@@ -83,9 +115,14 @@ SystemMailSettings ClientSettings::Mail() const
         bool bNumber = false;
         const int iPort = reader.value(KeyPort).toInt(&bNumber);
         server.iPort = bNumber && iPort >= 1 && iPort <= LastPort ? iPort : DefaultPort;
+        server.eEncryption = EncryptionOf(reader.value(KeyEncryption).toString());
+        server.recipients =
+            MailCheck::SplitRecipients(reader.value(KeyRecipients).toStringList().join(QLatin1Char(' ')));
+        server.strCertificateFile = reader.value(KeyCertificateFile).toString();
         mail.servers.append(server);
     }
     reader.endArray();
+    MailPasswords(PasswordFile()).Fill(mail);
     return mail;
 }
 
@@ -101,9 +138,22 @@ void ClientSettings::SetMail(const SystemMailSettings& settings)
         m_settings.setValue(KeyPort, server.iPort);
         m_settings.setValue(KeyUser, server.strUser);
         m_settings.setValue(KeySender, server.strSender);
+        m_settings.setValue(KeyEncryption, NameOf(server.eEncryption));
+        m_settings.setValue(KeyRecipients, server.recipients.join(QLatin1Char(' ')));
+        m_settings.setValue(KeyCertificateFile, server.strCertificateFile);
     }
     m_settings.endArray();
     m_settings.sync();
+    QString strReason;
+    m_bPasswordsKept = MailPasswords(PasswordFile()).Keep(settings, strReason);
+    if (!m_bPasswordsKept) {
+        CLIENT_LOG(lxl::LogError, "the mail passwords cannot be written: %s", qUtf8Printable(strReason));
+    }
+}
+
+QString ClientSettings::PasswordFile() const
+{
+    return QFileInfo(FileName()).absolutePath() + QStringLiteral("/mail-passwords.json");
 }
 
 QStringList ClientSettings::TreeExpansion() const
@@ -119,5 +169,5 @@ void ClientSettings::SetTreeExpansion(const QStringList& texts)
 bool ClientSettings::Write()
 {
     m_settings.sync();
-    return m_settings.status() == QSettings::NoError;
+    return m_settings.status() == QSettings::NoError && m_bPasswordsKept;
 }

@@ -25,13 +25,17 @@ public:
     QStringList OpenPages() const; ///< keys of the modules whose pages were open when the client ended
     void SetOpenPages(const QStringList& keys);
     SystemMailSettings Mail() const;
+    /// The passwords go into a file of their own beside this one, see MailPasswords.
     void SetMail(const SystemMailSettings& settings);
     QStringList TreeExpansion() const; ///< see TreeExpansion::ToTexts()
     void SetTreeExpansion(const QStringList& texts);
 
-    bool Write(); ///< false when the file cannot be written
+    bool Write(); ///< false when the file, or the one with the passwords, could not be written
     QString FileName() const { return m_settings.fileName(); }
 
 private:
+    QString PasswordFile() const;
+
     QSettings m_settings;
+    bool m_bPasswordsKept = true;
 };

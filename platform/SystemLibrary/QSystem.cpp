@@ -3,7 +3,8 @@
 bool operator==(const SystemMailServer& a, const SystemMailServer& b)
 {
     return a.strServer == b.strServer && a.iPort == b.iPort && a.strUser == b.strUser &&
-           a.strSender == b.strSender;
+           a.strSender == b.strSender && a.eEncryption == b.eEncryption && a.strPassword == b.strPassword &&
+           a.recipients == b.recipients && a.strCertificateFile == b.strCertificateFile;
 }
 
 bool operator==(const SystemMailSettings& a, const SystemMailSettings& b)

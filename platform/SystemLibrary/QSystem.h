@@ -5,8 +5,17 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
+
+/// How the connection to a mail server is protected.
+enum class SystemMailEncryption
+{
+    None,
+    StartTls, ///< begins in the clear and must be encrypted before anything is sent
+    Tls       ///< encrypted from its first byte
+};
 
 /// One mail server entry.
 struct SystemMailServer
@@ -15,6 +24,10 @@ struct SystemMailServer
     int32_t iPort = 25; ///< 1 to 65535
     QString strUser;    ///< empty: no authentication
     QString strSender;  ///< sender address
+    SystemMailEncryption eEncryption = SystemMailEncryption::None;
+    QString strPassword;        ///< goes with the user
+    QStringList recipients;     ///< who gets mail, one address each
+    QString strCertificateFile; ///< authorities trusted for this server, PEM; empty: those of the system
 };
 
 struct SystemMailSettings

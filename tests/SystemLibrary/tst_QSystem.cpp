@@ -84,6 +84,15 @@ private Q_SLOTS:
         QTest::newRow("user") << Change([](SystemMailSettings& mail) { mail.servers[0].strUser.clear(); });
         QTest::newRow("sender") << Change(
             [](SystemMailSettings& mail) { mail.servers[0].strSender.clear(); });
+        QTest::newRow("encryption") << Change(
+            [](SystemMailSettings& mail) { mail.servers[0].eEncryption = SystemMailEncryption::Tls; });
+        QTest::newRow("password") << Change(
+            [](SystemMailSettings& mail) { mail.servers[0].strPassword = QStringLiteral("other"); });
+        QTest::newRow("recipients") << Change([](SystemMailSettings& mail) {
+            mail.servers[0].recipients.append(QStringLiteral("chief@example.com"));
+        });
+        QTest::newRow("certificates") << Change(
+            [](SystemMailSettings& mail) { mail.servers[0].strCertificateFile = QStringLiteral("own.pem"); });
         QTest::newRow("none left") << Change([](SystemMailSettings& mail) { mail.servers.clear(); });
         QTest::newRow("one more") << Change(
             [](SystemMailSettings& mail) { mail.servers.append(SystemMailServer()); });

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void aFreshFileHasSoundDefaults();
     void everythingComesBackAtTheNextStart();
     void mailSettingsComeBackWithEveryServerInItsPlace();
+    void passwordsStandInAFileOfTheirOwn();
+    void passwordsThatCannotBeWrittenAreReported();
+    void anEncryptionThatIsNotKnownIsTakenForOne();
     void fewerServersLeaveNothingOfTheOldOnes();
     void whatTheFileHoldsIsNotTrusted();
     void aFileThatIsNoIniFileGivesTheDefaults();
@@ -34,9 +37,16 @@ private:
         first.iPort = 587;
         first.strUser = QString::fromUtf8("wächter, \"nacht\"; 1=2");
         first.strSender = QStringLiteral("guard@example.com");
+        first.eEncryption = SystemMailEncryption::StartTls;
+        first.strPassword = QString::fromUtf8("g€heim, \"1\"; a=b %3D\\n ");
+        first.recipients =
+            QStringList{QStringLiteral("desk@example.com"), QStringLiteral("chief@example.com")};
+        first.strCertificateFile = QString::fromUtf8("own, Bücher;=1.pem");
         SystemMailServer second;
         second.strServer = QStringLiteral("::1");
         second.iPort = 65535;
+        second.eEncryption = SystemMailEncryption::Tls;
+        second.recipients = QStringList{QStringLiteral("desk@example.com")};
         second.strSender = QString::fromUtf8("门卫@例子.中国");
         SystemMailSettings mail;
         mail.bEnable = true;
@@ -91,6 +101,45 @@ void TestClientSettings::mailSettingsComeBackWithEveryServerInItsPlace()
         QVERIFY(settings.Mail() == TwoServers());
     }
     QVERIFY(ClientSettings(m_strFile).Mail() == TwoServers());
+}
+
+void TestClientSettings::passwordsStandInAFileOfTheirOwn()
+{
+    ClientSettings settings(m_strFile);
+    settings.SetMail(TwoServers());
+    QVERIFY(settings.Write());
+    QFile file(m_strFile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(!file.readAll().contains("heim"));
+    const QString strPasswords = m_directory->filePath(QStringLiteral("mail-passwords.json"));
+    QVERIFY(QFile::exists(strPasswords));
+    QVERIFY(QFile::remove(strPasswords));
+    SystemMailSettings without = TwoServers();
+    without.servers[0].strPassword.clear();
+    QVERIFY(ClientSettings(m_strFile).Mail() == without);
+}
+
+void TestClientSettings::passwordsThatCannotBeWrittenAreReported()
+{
+    QVERIFY(QDir().mkdir(m_directory->filePath(QStringLiteral("mail-passwords.json"))));
+    ClientSettings settings(m_strFile);
+    settings.SetMail(TwoServers());
+    QVERIFY(!settings.Write());
+}
+
+void TestClientSettings::anEncryptionThatIsNotKnownIsTakenForOne()
+{
+    WriteFile("[mail]\nservers\\size=4\nservers\\1\\host=a\nservers\\2\\host=b\n"
+              "servers\\2\\encryption=none\nservers\\3\\encryption=ssl9\nservers\\4\\encryption=tls\n"
+              "servers\\4\\recipients=a@example.com, b@example.com\n");
+    const SystemMailSettings mail = ClientSettings(m_strFile).Mail();
+    QCOMPARE(mail.servers.size(), 4);
+    QVERIFY(mail.servers.at(0).eEncryption ==
+            SystemMailEncryption::None); // written before there was a choice
+    QVERIFY(mail.servers.at(1).eEncryption == SystemMailEncryption::None);
+    QVERIFY(mail.servers.at(2).eEncryption == SystemMailEncryption::StartTls);
+    QVERIFY(mail.servers.at(3).eEncryption == SystemMailEncryption::Tls);
+    QCOMPARE(mail.servers.at(3).recipients.size(), 2);
 }
 
 void TestClientSettings::fewerServersLeaveNothingOfTheOldOnes()

@@ -9,6 +9,7 @@ SystemMailServer SoundServer()
     SystemMailServer server;
     server.strServer = QStringLiteral("mail.example.com");
     server.strSender = QStringLiteral("guard@example.com");
+    server.recipients = QStringList{QStringLiteral("desk@example.com")};
     return server;
 }
 
@@ -67,7 +68,7 @@ private Q_SLOTS:
         QFETCH(QString, strUser);
         QFETCH(QString, strSender);
         QFETCH(int, iField);
-        SystemMailServer server;
+        SystemMailServer server = SoundServer();
         server.strServer = strHost;
         server.iPort = iPort;
         server.strUser = strUser;
@@ -79,6 +80,72 @@ private Q_SLOTS:
             QCOMPARE(problem->iServer, 1);
             QVERIFY(!problem->strText.isEmpty());
         }
+    }
+    void theNewerFieldsAreCheckedToo_data()
+    {
+        QTest::addColumn<QString>("strPassword");
+        QTest::addColumn<QString>("strRecipients");
+        QTest::addColumn<QString>("strCertificateFile");
+        QTest::addColumn<int>("iField");
+        QTest::addColumn<bool>("bOnlyWhenEnabled");
+        const QString strSecret = QStringLiteral("secret");
+        const QString strDesk = QStringLiteral("desk@example.com");
+        const auto field = [](MailCheck::Field f) { return static_cast<int>(f); };
+        QTest::newRow("a user without a password")
+            << QString() << strDesk << QString() << field(MailCheck::Field::Password) << true;
+        QTest::newRow("nobody gets it")
+            << strSecret << QString() << QString() << field(MailCheck::Field::Recipients) << true;
+        QTest::newRow("a line break in the password")
+            << QStringLiteral("a\nb") << strDesk << QString() << field(MailCheck::Field::Password) << false;
+        QTest::newRow("an endless password") << QString(257, QLatin1Char('p')) << strDesk << QString()
+                                             << field(MailCheck::Field::Password) << false;
+        QTest::newRow("one recipient is none") << strSecret << QStringLiteral("desk@example.com|chief")
+                                               << QString() << field(MailCheck::Field::Recipients) << false;
+        QTest::newRow("a header in a recipient")
+            << strSecret << QStringLiteral("desk@example.com\r\nBcc:all@example.com") << QString()
+            << field(MailCheck::Field::Recipients) << false;
+        QStringList many;
+        for (int i = 0; i < 101; ++i) {
+            many.append(QStringLiteral("desk%1@example.com").arg(i));
+        }
+        QTest::newRow("101 recipients") << strSecret << many.join(QLatin1Char('|')) << QString()
+                                        << field(MailCheck::Field::Recipients) << false;
+        QTest::newRow("a NUL in the file name") << strSecret << strDesk << QString(1, QChar(u'\0'))
+                                                << field(MailCheck::Field::CertificateFile) << false;
+    }
+    void theNewerFieldsAreCheckedToo()
+    {
+        QFETCH(QString, strPassword);
+        QFETCH(QString, strRecipients);
+        QFETCH(QString, strCertificateFile);
+        QFETCH(int, iField);
+        QFETCH(bool, bOnlyWhenEnabled);
+        SystemMailServer server = SoundServer();
+        server.strUser = QStringLiteral("guard");
+        server.strPassword = strPassword;
+        server.recipients = strRecipients.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+        server.strCertificateFile = strCertificateFile;
+        const auto problem = MailCheck::FirstProblem({true, {SoundServer(), server}});
+        QVERIFY(problem.has_value());
+        QCOMPARE(static_cast<int>(problem->field), iField);
+        QCOMPARE(problem->iServer, 1);
+        QCOMPARE(MailCheck::FirstProblem({false, {SoundServer(), server}}).has_value(), !bOnlyWhenEnabled);
+    }
+    void recipientsAreSplitWherePeopleSeparateThem()
+    {
+        const QString strA = QStringLiteral("a@example.com");
+        const QString strB = QStringLiteral("b@example.com");
+        QCOMPARE(
+            MailCheck::SplitRecipients(QStringLiteral("a@example.com, b@example.com;\r\n a@example.com ")),
+            (QStringList{strA, strB}));
+        QCOMPARE(MailCheck::SplitRecipients(QStringLiteral(" ,;\t\n")), QStringList());
+        QCOMPARE(MailCheck::SplitRecipients(QString()), QStringList());
+    }
+    void everyEncryptionHasAUsualPort()
+    {
+        QCOMPARE(MailCheck::UsualPort(SystemMailEncryption::None), 25);
+        QCOMPARE(MailCheck::UsualPort(SystemMailEncryption::StartTls), 587);
+        QCOMPARE(MailCheck::UsualPort(SystemMailEncryption::Tls), 465);
     }
     void hostsAreNamesOrAddresses_data()
     {
@@ -129,6 +196,8 @@ private Q_SLOTS:
         row("a@b@c", false);
         row("Guard <guard@example.com>", false);
         row("guard@example.com\nBcc: all@example.com", false);
+        row("guard@bücher.example", true);
+        row("门卫@example.com", false); // few servers take anything but ASCII before the @
     }
     void sendersAreOneAddress()
     {
@@ -141,12 +210,20 @@ private Q_SLOTS:
         SystemMailServer blanks = SoundServer();
         blanks.strServer = QStringLiteral("  mail.example.com\t");
         blanks.strUser = QStringLiteral(" u ");
+        blanks.strPassword = QStringLiteral(" p ");
+        blanks.strCertificateFile = QStringLiteral(" own.pem ");
+        SystemMailServer noUser = SoundServer();
+        noUser.strPassword = QStringLiteral("left behind");
         SystemMailServer empty;
         empty.iPort = 2525;
         empty.strUser = QStringLiteral("   ");
-        const SystemMailSettings tidied = MailCheck::Tidied({true, {empty, blanks, SystemMailServer()}});
+        const SystemMailSettings tidied =
+            MailCheck::Tidied({true, {empty, blanks, SystemMailServer(), noUser}});
         QVERIFY(tidied.bEnable);
-        QCOMPARE(tidied.servers.size(), 1);
+        QCOMPARE(tidied.servers.size(), 2);
+        QCOMPARE(tidied.servers.at(0).strPassword, QStringLiteral(" p ")); // blanks may be part of it
+        QCOMPARE(tidied.servers.at(0).strCertificateFile, QStringLiteral("own.pem"));
+        QCOMPARE(tidied.servers.at(1).strPassword, QString());
         QCOMPARE(tidied.servers.at(0).strServer, QStringLiteral("mail.example.com"));
         QCOMPARE(tidied.servers.at(0).strUser, QStringLiteral("u"));
     }

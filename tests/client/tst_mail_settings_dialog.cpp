@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -17,6 +18,7 @@ SystemMailServer Server(const QString& strHost, int32_t iPort)
     server.strServer = strHost;
     server.iPort = iPort;
     server.strSender = QStringLiteral("guard@example.com");
+    server.recipients = QStringList{QStringLiteral("desk@example.com")};
     return server;
 }
 
@@ -30,6 +32,10 @@ private Q_SLOTS:
     void itShowsWhatItIsGiven();
     void whatIsTypedIsHandedOut();
     void acceptingWithAProblemStaysOpenAndSaysWhy();
+    void aNewServerIsEncrypted();
+    void thePortFollowsTheEncryptionUnlessItWasChosen();
+    void showingAnotherServerKeepsItsPort();
+    void onlyWhatMattersCanBeTyped();
     void theProblemOfAnotherServerBringsThatServerUp();
     void anEmptyListStartsWithOneEmptyEntryThatCostsNothing();
     void serversAreAddedAndRemoved();
@@ -84,14 +90,21 @@ void TestMailSettingsDialog::whatIsTypedIsHandedOut()
     Find<QCheckBox>(dialog, "chkEnable")->click();
     Type(dialog, "edtHost", QStringLiteral(" mail.example.com "));
     Find<QSpinBox>(dialog, "spinPort")->setValue(465);
+    Find<QComboBox>(dialog, "cmbEncryption")->setCurrentIndex(2);
     Type(dialog, "edtUser", QStringLiteral("guard"));
+    Type(dialog, "edtPassword", QStringLiteral("secret"));
     Type(dialog, "edtSender", QStringLiteral("guard@example.com"));
+    Type(dialog, "edtRecipients", QStringLiteral("desk@example.com"));
+    Type(dialog, "edtCertificateFile", QStringLiteral("own.pem"));
     QCOMPARE(Find<QListWidget>(dialog, "listServers")->item(0)->text(), QStringLiteral("mail.example.com"));
     Accept(dialog);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QVERIFY(!dialog.isVisible());
     SystemMailServer expected = Server(QStringLiteral("mail.example.com"), 465);
     expected.strUser = QStringLiteral("guard");
+    expected.strPassword = QStringLiteral("secret");
+    expected.eEncryption = SystemMailEncryption::Tls;
+    expected.strCertificateFile = QStringLiteral("own.pem");
     QVERIFY(dialog.Settings() == (SystemMailSettings{true, {expected}}));
 }
 
@@ -110,7 +123,67 @@ void TestMailSettingsDialog::acceptingWithAProblemStaysOpenAndSaysWhy()
     QVERIFY(!Find<QLabel>(dialog, "lblProblem")->text().isEmpty());
     Type(dialog, "edtSender", QStringLiteral("guard@example.com"));
     Accept(dialog);
+    QVERIFY(dialog.isVisible()); // nobody would get the mail
+    Type(dialog, "edtRecipients", QStringLiteral("desk@example.com"));
+    Type(dialog, "edtUser", QStringLiteral("guard"));
+    Accept(dialog);
+    QVERIFY(dialog.isVisible()); // the user needs a password
+    Type(dialog, "edtPassword", QStringLiteral("secret"));
+    Accept(dialog);
     QVERIFY(!dialog.isVisible());
+}
+
+void TestMailSettingsDialog::aNewServerIsEncrypted()
+{
+    const MailSettingsDialog dialog({});
+    QCOMPARE(Find<QComboBox>(dialog, "cmbEncryption")->currentText(), QStringLiteral("STARTTLS"));
+    QCOMPARE(Find<QSpinBox>(dialog, "spinPort")->value(), 587);
+}
+
+void TestMailSettingsDialog::thePortFollowsTheEncryptionUnlessItWasChosen()
+{
+    const MailSettingsDialog dialog({});
+    auto* pEncryption = Find<QComboBox>(dialog, "cmbEncryption");
+    auto* pPort = Find<QSpinBox>(dialog, "spinPort");
+    pEncryption->setCurrentIndex(2);
+    QCOMPARE(pPort->value(), 465);
+    pEncryption->setCurrentIndex(0);
+    QCOMPARE(pPort->value(), 25);
+    pPort->setValue(2525);
+    pEncryption->setCurrentIndex(1);
+    QCOMPARE(pPort->value(), 2525);
+}
+
+void TestMailSettingsDialog::showingAnotherServerKeepsItsPort()
+{
+    SystemMailServer odd = Server(QStringLiteral("b.example"), 25);
+    odd.eEncryption = SystemMailEncryption::Tls;
+    const SystemMailSettings settings{false, {Server(QStringLiteral("a.example"), 25), odd}};
+    const MailSettingsDialog dialog(settings);
+    auto* pList = Find<QListWidget>(dialog, "listServers");
+    pList->setCurrentRow(1);
+    QCOMPARE(Find<QComboBox>(dialog, "cmbEncryption")->currentText(), QStringLiteral("TLS"));
+    QCOMPARE(Find<QSpinBox>(dialog, "spinPort")->value(), 25);
+    pList->setCurrentRow(0);
+    QVERIFY(dialog.Settings() == settings);
+}
+
+void TestMailSettingsDialog::onlyWhatMattersCanBeTyped()
+{
+    MailSettingsDialog dialog({});
+    dialog.show();
+    auto* pEncryption = Find<QComboBox>(dialog, "cmbEncryption");
+    auto* pWarning = Find<QLabel>(dialog, "lblOpenPassword");
+    QVERIFY(!Find<QLineEdit>(dialog, "edtPassword")->isEnabled());
+    QVERIFY(Find<QLineEdit>(dialog, "edtCertificateFile")->isEnabled());
+    QCOMPARE(Find<QLineEdit>(dialog, "edtPassword")->echoMode(), QLineEdit::Password);
+    Type(dialog, "edtUser", QStringLiteral("guard"));
+    QVERIFY(Find<QLineEdit>(dialog, "edtPassword")->isEnabled());
+    QVERIFY(!pWarning->isVisible());
+    pEncryption->setCurrentIndex(0);
+    QVERIFY(pWarning->isVisible());
+    QVERIFY(!Find<QLineEdit>(dialog, "edtCertificateFile")->isEnabled());
+    QVERIFY(!Find<QAbstractButton>(dialog, "btnBrowse")->isEnabled());
 }
 
 void TestMailSettingsDialog::theProblemOfAnotherServerBringsThatServerUp()

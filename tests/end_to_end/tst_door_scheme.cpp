@@ -95,6 +95,8 @@ private:
                          QStringLiteral("mail.example.com"));
         QTest::keyClicks(pDialog->findChild<QLineEdit*>(QStringLiteral("edtSender")),
                          QStringLiteral("guard@example.com"));
+        QTest::keyClicks(pDialog->findChild<QLineEdit*>(QStringLiteral("edtRecipients")),
+                         QStringLiteral("desk@example.com"));
         QTest::keyClick(pDialog, Qt::Key_Return);
     }
 
