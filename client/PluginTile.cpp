@@ -3,6 +3,7 @@
 #include "platform/LXGUI/Metrics.h"
 #include "platform/LXGUI/Theme.h"
 
+#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -132,14 +133,10 @@ void PluginTile::keyPressEvent(QKeyEvent* event)
     QAbstractButton::keyPressEvent(event);
 }
 
-void PluginTile::enterEvent(QEvent* event)
+bool PluginTile::event(QEvent* event)
 {
-    update();
-    QAbstractButton::enterEvent(event);
-}
-
-void PluginTile::leaveEvent(QEvent* event)
-{
-    update();
-    QAbstractButton::leaveEvent(event);
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        update(); // looks different under the pointer
+    }
+    return QAbstractButton::event(event);
 }

@@ -31,8 +31,11 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(ACS_VERSION));
     QTextStream out(stdout);
     QTextStream err(stderr);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Later streams speak UTF-8 of themselves.
     out.setCodec("UTF-8");
     err.setCodec("UTF-8");
+#endif
     QElapsedTimer clock;
     clock.start();
     CommandEnvironment environment{out, err, ClientDataDirectory(), IsTerminal(stderr),

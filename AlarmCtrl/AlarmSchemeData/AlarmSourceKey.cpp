@@ -1,9 +1,10 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSourceKey.h"
 
-#include <QStringRef>
-#include <QVector>
+#include <QLocale>
+#include <QStringView>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -13,18 +14,42 @@ const QChar Separator = QLatin1Char('$');
 
 /// Stricter than QString::toLongLong, which also takes blanks around the number and a leading plus: two texts
 /// that differ must not name one device.
-std::optional<int64_t> Number(const QStringRef& text)
+std::optional<int64_t> Number(QStringView text)
 {
-    const int first = text.startsWith(QLatin1Char('-')) ? 1 : 0;
+    const qsizetype first = text.startsWith(QLatin1Char('-')) ? 1 : 0;
     if (first == text.size())
         return std::nullopt;
     const bool digits = std::all_of(text.begin() + first, text.end(),
                                     [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
     if (!digits)
         return std::nullopt;
+    static const QLocale plain = QLocale::c();
     bool ok = false;
-    const qlonglong value = text.toLongLong(&ok, 10);
+    const qlonglong value = plain.toLongLong(text, &ok);
     return ok ? std::optional<int64_t>(value) : std::nullopt;
+}
+
+/// The text before the first separator; all of it when there is none.
+QStringView FirstText(QStringView source)
+{
+    const qsizetype end = source.indexOf(Separator);
+    return end < 0 ? source : source.left(end);
+}
+
+using Texts = std::array<QStringView, FieldsOfSource>;
+
+/// The texts of a source's four fields; nothing when it has another number of them.
+std::optional<Texts> FieldTexts(const QString& strSource)
+{
+    if (EventSource::FieldCount(strSource) != FieldsOfSource)
+        return std::nullopt;
+    Texts texts;
+    QStringView rest(strSource);
+    for (QStringView& text : texts) {
+        text = FirstText(rest);
+        rest = rest.mid(std::min(text.size() + 1, rest.size()));
+    }
+    return texts;
 }
 
 } // namespace
@@ -75,18 +100,18 @@ int FieldCount(const QString& strSource)
 
 std::optional<int64_t> FirstField(const QString& strSource)
 {
-    return Number(strSource.leftRef(strSource.indexOf(Separator)));
+    return Number(FirstText(strSource));
 }
 
 std::optional<Fields> Split(const QString& strSource)
 {
-    if (FieldCount(strSource) != FieldsOfSource)
+    const std::optional<Texts> texts = FieldTexts(strSource);
+    if (!texts)
         return std::nullopt;
-    const QVector<QStringRef> texts = strSource.splitRef(Separator);
-    const std::optional<int64_t> owner = Number(texts.at(0));
-    const std::optional<int64_t> unitType = Number(texts.at(1));
-    const std::optional<int64_t> subKind = Number(texts.at(2));
-    const std::optional<int64_t> channel = Number(texts.at(3));
+    const std::optional<int64_t> owner = Number((*texts)[0]);
+    const std::optional<int64_t> unitType = Number((*texts)[1]);
+    const std::optional<int64_t> subKind = Number((*texts)[2]);
+    const std::optional<int64_t> channel = Number((*texts)[3]);
     if (!owner || !unitType || !subKind || !channel)
         return std::nullopt;
     return Fields{*owner, *unitType, *subKind, *channel};
@@ -99,12 +124,10 @@ bool BelongsToDevice(const QString& strSource, int64_t iDeviceId)
 
 int64_t OutputChannelId(const QString& strSource)
 {
-    if (FieldCount(strSource) != FieldsOfSource)
+    const std::optional<Texts> texts = FieldTexts(strSource);
+    if (!texts || Number((*texts)[1]) != OutputUnitType)
         return -1;
-    const QVector<QStringRef> texts = strSource.splitRef(Separator);
-    if (Number(texts.at(1)) != OutputUnitType)
-        return -1;
-    return Number(texts.at(0)).value_or(-1);
+    return Number((*texts)[0]).value_or(-1);
 }
 
 std::optional<AlarmSourceKey> SchemeKey(const QString& strSource, int32_t iAlarmType)

@@ -5,6 +5,7 @@
 #include "platform/LXGUI/Theme.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -165,16 +166,15 @@ void LXMessageNotePanel::showEvent(QShowEvent* event)
     }
 }
 
-void LXMessageNotePanel::enterEvent(QEvent* event)
+bool LXMessageNotePanel::event(QEvent* event)
 {
-    QFrame::enterEvent(event);
-    m_pTime->stop(); // whoever points at it is still reading
-}
-
-void LXMessageNotePanel::leaveEvent(QEvent* event)
-{
-    QFrame::leaveEvent(event);
-    StartTime();
+    const bool bHandled = QFrame::event(event);
+    if (event->type() == QEvent::Enter) {
+        m_pTime->stop(); // whoever points at it is still reading
+    } else if (event->type() == QEvent::Leave) {
+        StartTime();
+    }
+    return bHandled;
 }
 
 } // namespace LXGUI

@@ -4,6 +4,7 @@
 #include "platform/LXGUI/Metrics.h"
 #include "platform/LXGUI/Theme.h"
 
+#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -174,16 +175,12 @@ void LXSwitchButton::keyPressEvent(QKeyEvent* event)
     QAbstractButton::keyPressEvent(event);
 }
 
-void LXSwitchButton::enterEvent(QEvent* event)
+bool LXSwitchButton::event(QEvent* event)
 {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void LXSwitchButton::leaveEvent(QEvent* event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        update(); // looks different under the pointer
+    }
+    return QAbstractButton::event(event);
 }
 
 } // namespace LXGUI

@@ -25,13 +25,12 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void nextCheckState() override;
     void checkStateSet() override;
     bool hitButton(const QPoint& pos) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void enterEvent(QEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
 private:
     void MoveKnob(bool bOn);

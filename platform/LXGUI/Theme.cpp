@@ -181,7 +181,7 @@ QString Theme::Resolve(const QString& strStyleSheet) const
     while (true) {
         const int iAt = strStyleSheet.indexOf(QLatin1Char('@'), iFrom);
         if (iAt < 0) {
-            return strResult.append(strStyleSheet.midRef(iFrom));
+            return strResult.append(QStringView(strStyleSheet).mid(iFrom));
         }
         // The whole word decides: "@accentHover" is never "@accent" with a tail, "a@2x.png" no colour.
         int iEnd = iAt + 1;
@@ -189,9 +189,9 @@ QString Theme::Resolve(const QString& strStyleSheet) const
             ++iEnd;
         }
         const auto it = m_colours.constFind(strStyleSheet.mid(iAt + 1, iEnd - iAt - 1));
-        strResult.append(strStyleSheet.midRef(iFrom, iAt - iFrom));
+        strResult.append(QStringView(strStyleSheet).mid(iFrom, iAt - iFrom));
         if (it == m_colours.constEnd()) {
-            strResult.append(strStyleSheet.midRef(iAt, iEnd - iAt));
+            strResult.append(QStringView(strStyleSheet).mid(iAt, iEnd - iAt));
         } else {
             strResult.append(it->name());
         }
