@@ -91,7 +91,8 @@ private:
         const QStringList columns = m_database.Rows(
             QStringLiteral("select '[' || name || ']' from pragma_table_xinfo('%1')").arg(table));
         const unsigned what = Byte();
-        const QString column = columns.value(static_cast<int>(Byte()) % std::max(1, columns.size()));
+        const QString column =
+            columns.value(static_cast<int>(Byte()) % std::max(1, static_cast<int>(columns.size())));
         const unsigned id = Byte() % 8;
         if (what < 150) {
             const QStringList marks = QVector<QString>(columns.size(), QStringLiteral("?")).toList();

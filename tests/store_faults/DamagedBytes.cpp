@@ -24,14 +24,15 @@ public:
 
 private:
     char Byte() { return static_cast<char>(m_random.bounded(256)); }
-    int Page() { return m_random.bounded(m_bytes.size() / PageSize) * PageSize; }
+    int Size() const { return static_cast<int>(m_bytes.size()); }
+    int Page() { return m_random.bounded(Size() / PageSize) * PageSize; }
 
     void DoOne()
     {
         switch (m_random.bounded(9)) {
         case 0: // anywhere
             for (int hit = 1 + m_random.bounded(30); hit > 0; --hit)
-                m_bytes[m_random.bounded(m_bytes.size())] = Byte();
+                m_bytes[m_random.bounded(Size())] = Byte();
             break;
         case 1: // the head of the file
             m_bytes[16 + m_random.bounded(HeadSize - 16)] = Byte();
@@ -44,7 +45,7 @@ private:
         }
         case 3: // one bit
         {
-            const int at = m_random.bounded(m_bytes.size());
+            const int at = m_random.bounded(Size());
             m_bytes[at] = static_cast<char>(m_bytes.at(at) ^ (1 << m_random.bounded(8)));
             break;
         }
@@ -86,6 +87,6 @@ void DamageBytes(QByteArray& bytes, QRandomGenerator& random)
 void CutOff(QByteArray& bytes, QRandomGenerator& random)
 {
     // Pages that are missing whole are harder to notice than others.
-    const int size = random.bounded(bytes.size());
+    const int size = random.bounded(static_cast<int>(bytes.size()));
     bytes.truncate(random.bounded(2) == 0 ? size : size / PageSize * PageSize);
 }

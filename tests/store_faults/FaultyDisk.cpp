@@ -258,7 +258,7 @@ int FaultyDisk::Decide(Operation operation)
                          operation.eKind == Kind::Delete || operation.eKind == Kind::Sync ||
                          (operation.eKind == Kind::Open && operation.bCreate);
     if (verdict == SQLITE_OK && changes && !operation.strFile.isEmpty())
-        m_changes.append(std::move(operation));
+        m_changes.append(operation);
     return verdict;
 }
 

@@ -4,6 +4,17 @@
 
 using Kind = FaultyDisk::Kind;
 
+namespace {
+
+/// What lies between the old end of a file and its new one is zero.
+void Lengthen(QByteArray& content, qint64 iSize)
+{
+    if (content.size() < iSize)
+        content.append(QByteArray(static_cast<int>(iSize - content.size()), '\0'));
+}
+
+} // namespace
+
 PowerCut::PowerCut(const DiskContent& before)
 {
     for (auto entry = before.cbegin(); entry != before.cend(); ++entry)
@@ -37,24 +48,22 @@ void PowerCut::Apply(Content& content, const FaultyDisk::Operation& change, QRan
         break;
     case Kind::Truncate:
         if (content && arrives()) {
-            const int size = static_cast<int>(change.iOffset);
-            content->append(QByteArray(std::max(0, size - content->size()), '\0'));
-            content->truncate(size);
+            Lengthen(*content, change.iOffset);
+            content->truncate(static_cast<int>(change.iOffset));
         }
         break;
-    case Kind::Write: {
-        const int offset = static_cast<int>(change.iOffset);
-        for (int done = 0; content && done < change.data.size();) {
-            const int size = std::min(Sector - (offset + done) % Sector, change.data.size() - done);
+    case Kind::Write:
+        for (qint64 done = 0; content && done < change.data.size();) {
+            const qint64 at = change.iOffset + done;
+            const qint64 size = std::min<qint64>(Sector - at % Sector, change.data.size() - done);
             if (arrives()) {
-                const int missing = offset + done + size - content->size();
-                content->append(QByteArray(std::max(0, missing), '\0'));
-                content->replace(offset + done, size, change.data.mid(done, size));
+                Lengthen(*content, at + size);
+                content->replace(static_cast<int>(at), static_cast<int>(size),
+                                 change.data.mid(static_cast<int>(done), static_cast<int>(size)));
             }
             done += size;
         }
         break;
-    }
     default:
         break;
     }

@@ -215,7 +215,7 @@ void StoreIoErrorsTest::aLoadThatFailsHalfwayMakesSavingRefuse()
 {
     int refused = 0;
     int operations = 0;
-    for (int at = 0; at <= operations; at += at == 0 ? 1 : SoakCount::Step(EveryTenth)) {
+    for (int at = 0; at <= operations; at += at == 0 ? 1 : SoakCount::Step(2)) {
         WriteDisk(m_folder->Root(), m_before);
         AlarmSchemeStoreBackend backend;
         // Somebody else has written meanwhile, so that nothing is left of what opening has read.

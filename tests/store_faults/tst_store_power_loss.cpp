@@ -61,7 +61,7 @@ void StorePowerLossTest::cleanup()
 void StorePowerLossTest::CutEverywhere(const DiskContent& before, const QList<FaultyDisk::Operation>& changes,
                                        int iStep, const Check& check)
 {
-    const int tornCuts = SoakCount::IsWhole() ? 12 : 2;
+    const int tornCuts = SoakCount::IsWhole() ? 12 : 1;
     PowerCut cut(before);
     int cuts = 0;
     for (int done = 0; done <= changes.size(); ++done) {
@@ -159,14 +159,14 @@ void StorePowerLossTest::everyMomentOfASaveLeavesTheOldOrTheNewSchemes()
         before = ReadDisk(m_folder->Root());
         m_disk->Reset();
         QCOMPARE(SaveAndWait(backend, change.after), 0);
-        reported = m_disk->Changes().size();
+        reported = static_cast<int>(m_disk->Changes().size());
     }
     const QList<FaultyDisk::Operation> changes = m_disk->Changes();
     QVERIFY2(reported > 10, qPrintable(QString::number(reported)));
     int found[2] = {0, 0};
-    CutEverywhere(before, changes, many ? SoakCount::Step() : 1, [&](int done) {
+    CutEverywhere(before, changes, SoakCount::Step(many ? SoakCount::Share : 4), [&](int done) {
         AlarmInfoMap map;
-        const QString wrong = FaultTestKit::Read(map);
+        QString wrong = FaultTestKit::Read(map);
         if (!wrong.isEmpty())
             return wrong;
         const bool isNew = map == change.stored;
@@ -223,7 +223,8 @@ void StorePowerLossTest::everyMomentOfUndoingATornSaveLeavesTheOldSchemes()
     QCOMPARE(FaultTestKit::Differs(change.before), QString());
     const QList<FaultyDisk::Operation> undoing = m_disk->Changes();
     QVERIFY(!undoing.isEmpty());
-    CutEverywhere(torn, undoing, 1, [&](int) { return FaultTestKit::Differs(change.before); });
+    CutEverywhere(torn, undoing, SoakCount::Step(2),
+                  [&](int) { return FaultTestKit::Differs(change.before); });
 }
 
 QTEST_GUILESS_MAIN(StorePowerLossTest)
