@@ -121,10 +121,10 @@ void CheckCommand::Write(const QVector<Finding>& findings, const Counts& counts,
                          QTextStream& out)
 {
     for (const Finding& finding : findings) {
-        out << tr("%1 %2: %3", "severity, code, place")
-                   .arg(Finding::SeverityName(finding.Severity()), Finding::CodeName(finding.code),
-                        finding.Place(site))
-            << "\n  " << finding.Text(site) << ' ' << finding.Advice() << '\n';
+        SchemeText::Line(out, tr("%1 %2: %3", "severity, code, place")
+                                  .arg(Finding::SeverityName(finding.Severity()),
+                                       Finding::CodeName(finding.code), finding.Place(site)));
+        SchemeText::Line(out, QStringLiteral("  %1 %2").arg(finding.Text(site), finding.Advice()));
     }
     if (site.IsEmpty())
         out << tr("No site file: sources, links, doors and devices were not looked at.") << '\n';

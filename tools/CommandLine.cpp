@@ -1,7 +1,10 @@
 #include "tools/CommandLine.h"
 
 #include "tools/CheckCommand.h"
+#include "tools/DiffCommand.h"
 #include "tools/ExplainCommand.h"
+#include "tools/ExportCommand.h"
+#include "tools/ImportCommand.h"
 #include "tools/ListCommand.h"
 #include "tools/MakeSiteCommand.h"
 #include "tools/ShowCommand.h"
@@ -18,6 +21,9 @@ CommandLine::CommandLine()
     m_commands.push_back(std::make_unique<ExplainCommand>());
     m_commands.push_back(std::make_unique<WhoSwitchesCommand>());
     m_commands.push_back(std::make_unique<CheckCommand>());
+    m_commands.push_back(std::make_unique<ExportCommand>());
+    m_commands.push_back(std::make_unique<ImportCommand>());
+    m_commands.push_back(std::make_unique<DiffCommand>());
     m_commands.push_back(std::make_unique<MakeSiteCommand>());
 }
 

@@ -113,17 +113,17 @@ int ExplainCommand::Run(const QStringList& arguments, CommandEnvironment& enviro
 void ExplainCommand::Write(const SchemeExplanation& explanation, const AlarmSourceKey& asked,
                            const SiteIndex& site, QTextStream& out)
 {
-    out << tr("%1, %2", "source and event, time")
-               .arg(SchemeText::Name(asked, site), SchemeExplanation::MomentText(explanation.at))
-        << '\n'
-        << explanation.Sentence() << '\n';
+    SchemeText::Line(out,
+                     tr("%1, %2", "source and event, time")
+                         .arg(SchemeText::Name(asked, site), SchemeExplanation::MomentText(explanation.at)));
+    SchemeText::Line(out, explanation.Sentence());
     if (explanation.key && explanation.key->strEventSource != asked.strEventSource)
         out << tr("A device has one scheme for this event, whichever door it comes from.") << '\n';
     if (explanation.verdict == SchemeVerdict::Armed) {
         const QStringList reactions = SchemeText::Reactions(explanation.reactions, site);
         out << (reactions.isEmpty() ? tr("It does nothing.") : tr("It does this:")) << '\n';
         for (const QString& strReaction : reactions)
-            out << "  " << strReaction << '\n';
+            SchemeText::Line(out, QStringLiteral("  ") + strReaction);
     }
     if (explanation.nextChange) {
         out << tr("The next change is at %1.").arg(SchemeExplanation::MomentText(*explanation.nextChange))

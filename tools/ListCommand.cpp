@@ -12,6 +12,10 @@
 
 namespace {
 
+/// Longer keys stick out, so that one of them does not push everything aside.
+constexpr int WidestColumn = 40;
+constexpr int TypeWidth = 3;
+
 using Scheme = AlarmInfoMap::const_iterator;
 
 struct Wish
@@ -87,7 +91,7 @@ int ListCommand::Run(const QStringList& arguments, CommandEnvironment& environme
     }
     int width = 0;
     for (const Scheme& scheme : schemes)
-        width = std::max(width, scheme.key().strEventSource.size());
+        width = std::max(width, std::min(scheme.key().strEventSource.size(), WidestColumn));
     const QString strOn = tr("on");
     const QString strOff = tr("off");
     const int stateWidth = std::max(strOn.size(), strOff.size());
@@ -95,9 +99,10 @@ int ListCommand::Run(const QStringList& arguments, CommandEnvironment& environme
     int on = 0;
     for (const Scheme& scheme : schemes) {
         on += scheme->bOpen ? 1 : 0;
-        environment.out << state(scheme->bOpen) << "  " << scheme.key().strEventSource.leftJustified(width)
-                        << "  " << QString::number(scheme.key().AlarmType).leftJustified(3) << "  "
-                        << SchemeText::Name(scheme.key(), input.site) << '\n';
+        const QStringList columns{state(scheme->bOpen), scheme.key().strEventSource.leftJustified(width),
+                                  QString::number(scheme.key().AlarmType).leftJustified(TypeWidth),
+                                  SchemeText::Name(scheme.key(), input.site)};
+        SchemeText::Line(environment.out, columns.join(QStringLiteral("  ")));
     }
     environment.out << tr("Schemes: %1, switched on: %2").arg(schemes.size()).arg(on) << '\n';
     return ExitCode::Done;

@@ -30,11 +30,14 @@ MomentArgument MomentArgument::Parse(const QString& strText, const QString& strZ
     if (!zone.isValid())
         return Refused(tr("There is no time zone \"%1\".").arg(strZone));
     static const QRegularExpression form(
-        QStringLiteral("^(?<date>[0-9]{4}-[0-9]{2}-[0-9]{2})[T ](?<time>[0-9]{2}:[0-9]{2}(?::[0-9]{2})?)"
-                       "(?<zone>Z|(?<sign>[+-])(?<hours>[0-9]{2}):?(?<minutes>[0-5][0-9]))?$"));
+        QStringLiteral("\\A(?<date>[0-9]{4}-[0-9]{2}-[0-9]{2})[T "
+                       "](?<hour>[0-9]{2}):(?<minute>[0-9]{2})(?::(?<second>[0-9]{2}))?"
+                       "(?<zone>Z|(?<sign>[+-])(?<hours>[0-9]{2}):?(?<minutes>[0-5][0-9]))?\\z"));
     const QRegularExpressionMatch match = form.match(strText);
     const QDate date = QDate::fromString(match.captured(QStringLiteral("date")), Qt::ISODate);
-    const QTime time = QTime::fromString(match.captured(QStringLiteral("time")), Qt::ISODate);
+    const auto number = [&match](const QString& strName) { return match.captured(strName).toInt(); };
+    const QTime time(number(QStringLiteral("hour")), number(QStringLiteral("minute")),
+                     number(QStringLiteral("second")));
     const int offset = OffsetOf(match);
     constexpr int widest = 14 * 3600;
     if (!match.hasMatch() || !date.isValid() || !time.isValid() || offset < -widest || offset > widest) {

@@ -1,67 +1,49 @@
 #include "tools/SchemeText.h"
 
 #include "platform/SystemLibrary/QCommon.h"
+#include "scheme_services/evaluation/SchemeWords.h"
 
 #include <QJsonArray>
+#include <QTextStream>
 
 namespace {
 
-QString Clock(int32_t iSeconds)
+bool IsHarmful(QChar character)
 {
-    constexpr int32_t lastSecond = 86399;
-    // The end of the day is written as people do.
-    if (iSeconds == lastSecond)
-        return QStringLiteral("24:00");
-    const auto two = [](int32_t iNumber) {
-        return QStringLiteral("%1").arg(iNumber, 2, 10, QLatin1Char('0'));
-    };
-    const QString strMinutes = two(iSeconds / 3600) + QLatin1Char(':') + two(iSeconds / 60 % 60);
-    return iSeconds % 60 == 0 ? strMinutes : strMinutes + QLatin1Char(':') + two(iSeconds % 60);
+    const char16_t code = character.unicode();
+    return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
+           character.category() == QChar::Separator_Paragraph || (code >= 0x202A && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
 }
 
 } // namespace
 
+void SchemeText::Line(QTextStream& out, const QString& strText)
+{
+    QString strShown;
+    for (const QChar character : strText) {
+        if (IsHarmful(character)) {
+            strShown += QStringLiteral("\\u%1").arg(uint{character.unicode()}, 4, 16, QLatin1Char('0'));
+        } else {
+            strShown += character;
+        }
+    }
+    out << strShown << '\n';
+}
+
 QString SchemeText::Name(const AlarmSourceKey& key, const SiteIndex& site)
 {
-    return tr("%1, %2", "source, event")
-        .arg(site.NameOfSource(key.strEventSource), QCommon::GetAlarmNameByType(key.AlarmType));
+    return SchemeWords::Name(key, site);
 }
 
 QStringList SchemeText::Reactions(const SchemeReactions& reactions, const SiteIndex& site)
 {
-    QStringList lines;
-    if (reactions.bSound)
-        lines += tr("plays the alarm sound");
-    if (reactions.bTwinkle)
-        lines += tr("lets the icon twinkle on the e-map");
-    if (reactions.bMail)
-        lines += tr("sends a mail");
-    for (const AlarmLinkAlarmOut& output : reactions.outputs) {
-        lines += tr("switches on %1 for %2 s")
-                     .arg(site.NameOfOutput(output.strLinkAlarmID), QString::number(output.Time));
-    }
-    for (const AlarmLinkDoor& door : reactions.doors) {
-        lines +=
-            (door.bAlwaysOpen ? tr("keeps %1 open") : tr("opens %1")).arg(site.NameOfDoor(door.strDoorID));
-    }
-    for (auto video = reactions.videos.begin(); video != reactions.videos.end(); ++video) {
-        const QString strWhat = !video->bRecord ? tr("shows %1 in window %2 for %3 s")
-                                : video->bOpen  ? tr("shows and records %1 in window %2 for %3 s")
-                                                : tr("records %1 of window %2 for %3 s");
-        lines += strWhat.arg(site.NameOfSource(video->strLinkDevID), QString::number(video.key()),
-                             QString::number(video->Time));
-    }
-    return lines;
+    return SchemeWords::Reactions(reactions, site);
 }
 
 QString SchemeText::Day(const AlarmDefenceTime_t& regions)
 {
-    if (regions.isEmpty())
-        return tr("not armed");
-    QStringList texts;
-    for (const AlarmTimeRegion& region : regions)
-        texts += Clock(region.Begin) + QLatin1Char('-') + Clock(region.End);
-    return texts.join(QStringLiteral(", "));
+    return SchemeWords::Day(regions);
 }
 
 QJsonObject SchemeText::KeyJson(const AlarmSourceKey& key, const SiteIndex& site)

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+class QTextStream;
+
 /// Schemes in words and in JSON, as the commands write them.
 class SchemeText
 {
@@ -16,6 +18,10 @@ class SchemeText
 
 public:
     SchemeText() = delete;
+
+    /// A text on a line of its own, harmless to a terminal whatever a database holds: characters that would
+    /// move, erase or turn other text around are written by their numbers.
+    static void Line(QTextStream& out, const QString& strText);
 
     /// "Lobby/Door 1, Door Forced Open".
     static QString Name(const AlarmSourceKey& key, const SiteIndex& site);

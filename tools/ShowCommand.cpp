@@ -1,5 +1,6 @@
 #include "tools/ShowCommand.h"
 
+#include "scheme_services/exchange/SchemeTextWriter.h"
 #include "tools/SchemeInput.h"
 #include "tools/SchemeText.h"
 
@@ -49,57 +50,74 @@ int ShowCommand::Run(const QStringList& arguments, CommandEnvironment& environme
             << '\n';
         return ExitCode::Finding;
     }
-    Write(scheme.key(), scheme.value(), input.site, environment.out);
+    if (!options.IsJson()) {
+        Write(scheme.key(), scheme.value(), input.site, environment.out);
+        return ExitCode::Done;
+    }
+    // The same text as an export of this scheme alone.
+    SchemeTextWriter writer;
+    QByteArray text;
+    const bool written = writer.Write({{scheme.key(), scheme.value()}}, [&text](const QByteArray& piece) {
+        text += piece;
+        return true;
+    });
+    if (!written) {
+        environment.err << writer.Failure() << '\n';
+        return ExitCode::Failure;
+    }
+    environment.out << QString::fromUtf8(text);
     return ExitCode::Done;
 }
 
 void ShowCommand::Write(const AlarmSourceKey& key, const AlarmInfo& info, const SiteIndex& site,
                         QTextStream& out)
 {
+    const QStringList lines = Lines(key, info, site);
+    for (const QString& strLine : lines)
+        SchemeText::Line(out, strLine);
+}
+
+QStringList ShowCommand::Lines(const AlarmSourceKey& key, const AlarmInfo& info, const SiteIndex& site)
+{
     const auto yesNo = [](bool bYes) { return bYes ? tr("yes") : tr("no"); };
-    out << SchemeText::Name(key, site) << '\n'
-        << tr("Key: %1, event type %2").arg(key.strEventSource, QString::number(key.AlarmType)) << '\n'
-        << tr("Switched on: %1").arg(yesNo(info.bOpen)) << '\n'
-        << tr("Sound: %1").arg(yesNo(info.bOpenSound)) << '\n'
-        << tr("Twinkle on the e-map: %1").arg(yesNo(info.bEmapTwinkle)) << '\n'
-        << tr("Mail: %1").arg(yesNo(info.bSendEmail)) << '\n';
-    out << (info.listAlarmOut.isEmpty() ? tr("Outputs: none") : tr("Outputs:")) << '\n';
+    const QString strIndent = QStringLiteral("  ");
+    QStringList lines{SchemeText::Name(key, site),
+                      tr("Key: %1, event type %2").arg(key.strEventSource, QString::number(key.AlarmType)),
+                      tr("Switched on: %1").arg(yesNo(info.bOpen)),
+                      tr("Sound: %1").arg(yesNo(info.bOpenSound)),
+                      tr("Twinkle on the e-map: %1").arg(yesNo(info.bEmapTwinkle)),
+                      tr("Mail: %1").arg(yesNo(info.bSendEmail))};
+    lines += info.listAlarmOut.isEmpty() ? tr("Outputs: none") : tr("Outputs:");
     for (const AlarmLinkAlarmOut& link : info.listAlarmOut) {
         const QString strHow = link.bAutoOpen ? tr("%1 (%2): switched on for %3 s")
                                               : tr("%1 (%2): not switched on by itself, for %3 s otherwise");
-        out << "  "
-            << strHow.arg(site.NameOfOutput(link.strLinkAlarmID), link.strLinkAlarmID,
-                          QString::number(link.Time))
-            << '\n';
+        lines += strIndent + strHow.arg(site.NameOfOutput(link.strLinkAlarmID), link.strLinkAlarmID,
+                                        QString::number(link.Time));
     }
-    out << (info.listDoor.isEmpty() ? tr("Doors: none") : tr("Doors:")) << '\n';
+    lines += info.listDoor.isEmpty() ? tr("Doors: none") : tr("Doors:");
     for (const AlarmLinkDoor& link : info.listDoor) {
         const QString strHow = link.bAlwaysOpen ? tr("%1 (%2): kept open") : tr("%1 (%2): opened");
-        out << "  " << strHow.arg(site.NameOfDoor(link.strDoorID), link.strDoorID) << '\n';
+        lines += strIndent + strHow.arg(site.NameOfDoor(link.strDoorID), link.strDoorID);
     }
     const AlarmVideoSplit& split = info.videoSplit;
-    out << (split.videoLinks.isEmpty() ? tr("Video: none") : tr("Video:")) << '\n';
+    lines += split.videoLinks.isEmpty() ? tr("Video: none") : tr("Video:");
     for (auto link = split.videoLinks.begin(); link != split.videoLinks.end(); ++link) {
-        out << "  "
-            << tr("Window %1: %2 (%3), shown: %4, recorded: %5, preset %6, stream %7, %8 s")
-                   .arg(QString::number(link.key()), site.NameOfSource(link->strLinkDevID),
-                        link->strLinkDevID, yesNo(link->bOpen), yesNo(link->bRecord),
-                        QString::number(link->Preposition), QString::number(link->StreamType),
-                        QString::number(link->Time))
-            << '\n';
+        lines += strIndent + tr("Window %1: %2 (%3), shown: %4, recorded: %5, preset %6, stream %7, %8 s")
+                                 .arg(QString::number(link.key()), site.NameOfSource(link->strLinkDevID),
+                                      link->strLinkDevID, yesNo(link->bOpen), yesNo(link->bRecord),
+                                      QString::number(link->Preposition), QString::number(link->StreamType),
+                                      QString::number(link->Time));
     }
-    out << tr("Video windows: %1 rows, %2 columns, %3 used")
-               .arg(split.SplitRow)
-               .arg(split.SplitCloum)
-               .arg(split.SplitCount)
-        << '\n'
-        << tr("Defence time:") << '\n';
+    lines += tr("Video windows: %1 rows, %2 columns, %3 used")
+                 .arg(split.SplitRow)
+                 .arg(split.SplitCloum)
+                 .arg(split.SplitCount);
+    lines += tr("Defence time:");
     // The locale counts Monday as 1 and Sunday as 7.
     for (int day = 0; day < AlarmWeek::DayCount; ++day) {
-        out << "  "
-            << tr("%1: %2", "day of the week, regions")
-                   .arg(QLocale().standaloneDayName(day == 0 ? 7 : day),
-                        SchemeText::Day(info.defenceTime[day]))
-            << '\n';
+        lines += strIndent + tr("%1: %2", "day of the week, regions")
+                                 .arg(QLocale().standaloneDayName(day == 0 ? 7 : day),
+                                      SchemeText::Day(info.defenceTime[day]));
     }
+    return lines;
 }

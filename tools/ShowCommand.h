@@ -20,6 +20,7 @@ public:
     int Run(const QStringList& arguments, CommandEnvironment& environment) override;
 
 private:
+    static QStringList Lines(const AlarmSourceKey& key, const AlarmInfo& info, const SiteIndex& site);
     static void Write(const AlarmSourceKey& key, const AlarmInfo& info, const SiteIndex& site,
                       QTextStream& out);
 };

@@ -58,15 +58,14 @@ int WhoSwitchesCommand::Run(const QStringList& arguments, CommandEnvironment& en
         list.End({{QStringLiteral("output"), output.strKey},
                   {QStringLiteral("outputName"), input.site.NameOfOutput(output.strKey)}});
     } else {
-        environment.out << tr("%1, linked by %2:", "output, number of schemes")
-                               .arg(input.site.NameOfOutput(output.strKey))
-                               .arg(uses.size())
-                        << '\n';
+        SchemeText::Line(environment.out, tr("%1, linked by %2:", "output, number of schemes")
+                                              .arg(input.site.NameOfOutput(output.strKey))
+                                              .arg(uses.size()));
         for (const OutputUse& use : uses) {
-            environment.out << "  "
-                            << tr("%1: %2", "scheme, whether and how long it switches the output on")
-                                   .arg(SchemeText::Name(use.key, input.site), State(use))
-                            << '\n';
+            SchemeText::Line(environment.out,
+                             QStringLiteral("  ") +
+                                 tr("%1: %2", "scheme, whether and how long it switches the output on")
+                                     .arg(SchemeText::Name(use.key, input.site), State(use)));
         }
     }
     const bool switched =

@@ -1,36 +1,10 @@
-#include "platform/SiteLibrary/SiteFile.h"
-#include "tools/CommandLine.h"
+#include "tests/tools/CommandKit.h"
 #include "tools/SiteMaker.h"
 
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextStream>
-
-namespace {
-
-/// One run of the program, in process.
-struct Run
-{
-    explicit Run(const QStringList& arguments)
-    {
-        QTextStream outStream(&out);
-        QTextStream errStream(&err);
-        CommandEnvironment environment{outStream, errStream};
-        code = CommandLine().Run(QStringList(QStringLiteral("acs-scheme")) + arguments, environment);
-    }
-
-    QString out;
-    QString err;
-    int code;
-};
-
-QStringList Words(const char* szLine)
-{
-    return QString::fromLatin1(szLine).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-} // namespace
 
 class TestAcsScheme : public QObject
 {
@@ -49,6 +23,9 @@ private Q_SLOTS:
     void wrongUseChangesNothing();
     void theLargestSeedIsTaken();
     void aFileThatCannotBeWrittenIsAFailure();
+    void everyCommandHasHelpAndASentence();
+    void everyCommandTakesAFormat();
+    void theClientsDirectoryIsTheOneTheClientUses();
     void anExistingFileIsReplaced();
 };
 
@@ -166,6 +143,46 @@ void TestAcsScheme::aFileThatCannotBeWrittenIsAFailure()
     QCOMPARE(run.code, 3);
     QVERIFY(run.out.isEmpty());
     QVERIFY(run.err.contains(QStringLiteral("site.json")));
+}
+
+void TestAcsScheme::everyCommandHasHelpAndASentence()
+{
+    // Name and sentence stand two blanks apart, below the word that heads them.
+    const QStringList lines = Run(Words("--help")).out.split(QLatin1Char('\n'));
+    int commands = 0;
+    for (const QString& strLine : lines.mid(lines.indexOf(QStringLiteral("Commands:")) + 1)) {
+        if (!strLine.startsWith(QStringLiteral("  ")))
+            break;
+        const QString strName = strLine.trimmed().section(QLatin1Char(' '), 0, 0);
+        QVERIFY2(strLine.endsWith(QLatin1Char('.')), qPrintable(strLine));
+        const Run run({strName, QStringLiteral("--help")});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.out.startsWith(QStringLiteral("Usage: acs-scheme %1 ").arg(strName)),
+                 qPrintable(run.out));
+        QVERIFY(run.err.isEmpty());
+        ++commands;
+    }
+    QVERIFY(commands >= 6);
+}
+
+void TestAcsScheme::everyCommandTakesAFormat()
+{
+    for (const char* const command : {"list", "show", "explain", "who-switches", "check", "make-site"}) {
+        QVERIFY2(Run(Words(command) + Words("--help")).out.contains(QStringLiteral("--format <text|json>")),
+                 command);
+        const Run run(Words(command) + Words("--format xml"));
+        QCOMPARE(run.code, 2);
+        QVERIFY(run.out.isEmpty());
+    }
+    QCOMPARE(Run(Words("make-site --doors 3 --format json")).out, Run(Words("make-site --doors 3")).out);
+}
+
+void TestAcsScheme::theClientsDirectoryIsTheOneTheClientUses()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("acs-client"));
+    const QString strClient = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QCoreApplication::setApplicationName(QStringLiteral("acs-scheme"));
+    QCOMPARE(ClientDataDirectory(), QDir::cleanPath(strClient));
 }
 
 void TestAcsScheme::anExistingFileIsReplaced()
