@@ -1,6 +1,7 @@
 #include "client/store/SchemeStoreOutcome.h"
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "client/store/DurableJournal.h"
 
 #include <QSet>
 #include <QtTest>
@@ -23,6 +24,9 @@ private Q_SLOTS:
     void everyFailureSaysWhatHappenedAndWhatToDo();
     void aRefusedSaveRepeatsWhyTheLoadFailed();
     void aSaveWithoutALoadSaysSo();
+    void aMissingBackupIsAddedToTheSuccess();
+    void rowsOfNobodyAreAddedToTheLoad();
+    void aRepairTellsWhatWasDoneAndWhereTheDamagedFileIs();
 };
 
 void SchemeStoreOutcomeTest::aFailedStatementTellsItsReason_data()
@@ -40,6 +44,7 @@ void SchemeStoreOutcomeTest::aFailedStatementTellsItsReason_data()
     QTest::newRow("no database") << SQLITE_NOTADB << Reason::Damaged;
     QTest::newRow("cannot open") << SQLITE_CANTOPEN_ISDIR << Reason::NotOpen;
     QTest::newRow("refused text") << AlarmSchemeStatementFailure::TextRefused + 0 << Reason::BadText;
+    QTest::newRow("journal") << DurableJournal::Refused + 0 << Reason::Journal;
     QTest::newRow("constraint") << SQLITE_CONSTRAINT_TRIGGER << Reason::Other;
     QTest::newRow("disk error") << SQLITE_IOERR_WRITE << Reason::Other;
 }
@@ -97,6 +102,48 @@ void SchemeStoreOutcomeTest::aSaveWithoutALoadSaysSo()
     const SchemeStoreOutcome save = SchemeStoreOutcome::RefusedSave(
         SchemeStoreOutcome::Failure(Operation::Load, Reason::NotLoaded, QString()));
     QVERIFY(save.eReason == Reason::NotLoaded);
+}
+
+void SchemeStoreOutcomeTest::aMissingBackupIsAddedToTheSuccess()
+{
+    QSet<QString> texts;
+    for (const int code : {SQLITE_FULL, SQLITE_CANTOPEN, SQLITE_BUSY}) {
+        SchemeStoreOutcome outcome = SchemeStoreOutcome::Saved(12, 0);
+        const QString saved = outcome.Text();
+        QVERIFY(!outcome.bWarning);
+        outcome.AddNoBackup(AlarmSchemeStatementFailure{code, QStringLiteral("why")});
+        QVERIFY(outcome.IsSuccess() && outcome.bWarning);
+        QVERIFY(outcome.Text().startsWith(saved) && outcome.Text() != saved);
+        QCOMPARE(outcome.strTechnical, QStringLiteral("why"));
+        texts.insert(outcome.Text());
+    }
+    QCOMPARE(texts.size(), 3);
+}
+
+void SchemeStoreOutcomeTest::rowsOfNobodyAreAddedToTheLoad()
+{
+    SchemeStoreOutcome outcome = SchemeStoreOutcome::Success(Operation::Load, 5);
+    outcome.AddOrphanRows(314);
+    QVERIFY(outcome.IsSuccess() && outcome.bWarning);
+    QVERIFY(outcome.Text().contains(QLatin1String("314")));
+}
+
+void SchemeStoreOutcomeTest::aRepairTellsWhatWasDoneAndWhereTheDamagedFileIs()
+{
+    const QString kept = QStringLiteral("/somewhere/AlarmScheme.damaged-20261121-184500.db");
+    const SchemeStoreOutcome restored =
+        SchemeStoreOutcome::Repaired(kept, QDateTime(QDate(2026, 11, 20), QTime(7, 30)), 4711);
+    const SchemeStoreOutcome empty = SchemeStoreOutcome::Repaired(kept, QDateTime(), 0);
+    for (const SchemeStoreOutcome& outcome : {restored, empty}) {
+        QVERIFY(outcome.IsSuccess() && outcome.eOperation == Operation::Repair);
+        QVERIFY(outcome.Text().contains(QLatin1String("AlarmScheme.damaged-20261121-184500.db")));
+    }
+    QVERIFY(restored.Text().contains(QLatin1String("4711")));
+    QVERIFY(restored.strWhat != empty.strWhat);
+    QVERIFY(SchemeStoreOutcome::NothingToRepair().IsSuccess());
+    const SchemeStoreOutcome failed =
+        SchemeStoreOutcome::Failure(Operation::Repair, Reason::Locked, QStringLiteral("busy"));
+    QVERIFY(!failed.IsSuccess() && !failed.strWhat.isEmpty() && !failed.strNext.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(SchemeStoreOutcomeTest)
