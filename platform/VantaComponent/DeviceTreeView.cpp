@@ -83,8 +83,15 @@ void DeviceTreeView::Reveal(const QModelIndex& index)
 
 QRect DeviceTreeView::CheckBoxRect(const QModelIndex& index) const
 {
-    QStyleOptionViewItem option = viewOptions();
+    // What decides where the box stands; the rest of a row's looks does not matter here.
+    QStyleOptionViewItem option;
+    option.initFrom(this);
     option.widget = this;
+    option.font = font();
+    const int iIcon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    option.decorationSize = iconSize().isValid() ? iconSize() : QSize(iIcon, iIcon);
+    option.decorationAlignment = Qt::AlignCenter;
+    option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
     option.rect = visualRect(index);
     return option.rect.isEmpty() ? QRect() : m_pDelegate->CheckBoxRect(option, index);
 }
