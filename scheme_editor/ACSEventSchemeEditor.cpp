@@ -26,6 +26,7 @@
 #include "scheme_editor/SchemeCopy.h"
 #include "scheme_editor/SchemeForm.h"
 #include "scheme_editor/TabLayout.h"
+#include "scheme_editor/edits/SchemeDraft.h"
 #include "ui_ACSEventSchemeEditor.h"
 
 #include <QApplication>
@@ -559,6 +560,16 @@ int ACSEventSchemeEditor::RestoreDraft(const QByteArray& draft)
     if (restored)
         LoadCurrentScheme();
     return restored.value_or(-1);
+}
+
+int ACSEventSchemeEditor::DraftSchemes(const QByteArray& draft)
+{
+    const std::optional<SchemeDraft> content = SchemeDraft::Read(draft);
+    if (!content)
+        return -1;
+    int iSchemes = 0;
+    content->ForEach([&iSchemes](const AlarmSourceKey& /*key*/, const AlarmInfo* /*pInfo*/) { ++iSchemes; });
+    return iSchemes;
 }
 
 // A page that stands alone has a title without the placeholder that setWindowModified() asks for.

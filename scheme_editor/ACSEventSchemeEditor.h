@@ -105,6 +105,8 @@ public:
     /// Makes the edits of a draft again, as one edit that can be undone. How many schemes changed by it, -1
     /// when the bytes are no usable draft.
     Q_INVOKABLE int RestoreDraft(const QByteArray& draft);
+    /// How many schemes a draft holds, -1 when the bytes are no draft.
+    Q_INVOKABLE static int DraftSchemes(const QByteArray& draft);
 
 protected:
     void customEvent(QEvent* event) override;
