@@ -13,10 +13,12 @@ public:
         : QUndoCommand(step.strText)
         , m_history(history)
         , m_step(std::move(step))
+        , m_iCost(m_step.change.Cost())
     {
     }
 
     const SchemeStep& Step() const { return m_step; }
+    int64_t Cost() const { return m_iCost; }
 
     void undo() override { MakeSide(SchemeChange::Side::Before); }
     void redo() override { MakeSide(SchemeChange::Side::After); }
@@ -34,6 +36,7 @@ public:
         SchemeChange::Builder builder;
         builder.Add(first.key, &first.before, &next.after);
         m_step.change = builder.Take();
+        m_iCost = m_step.change.Cost();
         if (m_step.change.IsEmpty() ||
             SchemeContent::AreSame(first.before, next.after, m_history.m_isKnown)) {
             setObsolete(true); // typed back to where it began
@@ -70,12 +73,13 @@ private:
 
     SchemeHistory& m_history;
     SchemeStep m_step;
+    int64_t m_iCost;
 };
 
-SchemeHistory::SchemeHistory(Make make, SchemeContent::KnownOutput isKnown, QObject* parent)
-    : QObject(parent)
-    , m_make(std::move(make))
+SchemeHistory::SchemeHistory(Make make, SchemeContent::KnownOutput isKnown, int64_t iMaxCost)
+    : m_make(std::move(make))
     , m_isKnown(std::move(isKnown))
+    , m_iMaxCost(iMaxCost)
 {
     m_stack.setUndoLimit(MaxSteps);
 }
@@ -148,7 +152,7 @@ int64_t SchemeHistory::Cost() const
 {
     int64_t iCost = 0;
     for (int i = 0; i < m_stack.count(); ++i)
-        iCost += At(i)->Step().change.Cost();
+        iCost += At(i)->Cost();
     return iCost;
 }
 
@@ -173,8 +177,8 @@ void SchemeHistory::Trim()
     int64_t iCost = 0;
     int iFirst = m_stack.count();
     while (iFirst > 0) {
-        iCost += At(iFirst - 1)->Step().change.Cost();
-        if (iCost > MaxCost && iFirst < m_stack.count())
+        iCost += At(iFirst - 1)->Cost();
+        if (iCost > m_iMaxCost && iFirst < m_stack.count())
             break;
         --iFirst;
     }

@@ -37,8 +37,8 @@ public:
     using Make = std::function<void(const SchemeChange&, SchemeChange::Side)>;
 
     /// `make` brings the schemes to that side of a change. `isKnown` tells whether typing has led back to
-    /// where it began, which is no step any more.
-    SchemeHistory(Make make, SchemeContent::KnownOutput isKnown, QObject* parent = nullptr);
+    /// where it began, which is no step any more. The newest step stays whatever it costs.
+    SchemeHistory(Make make, SchemeContent::KnownOutput isKnown, int64_t iMaxCost = MaxCost);
     ~SchemeHistory() override;
 
     /// A step that has been made already. What could be made again is forgotten.
@@ -67,6 +67,7 @@ private:
 
     Make m_make;
     SchemeContent::KnownOutput m_isKnown;
+    int64_t m_iMaxCost;
     QUndoStack m_stack;
     bool m_bMade = false;  ///< the step that is pushed has been made already
     bool m_bStill = false; ///< the steps are being rearranged

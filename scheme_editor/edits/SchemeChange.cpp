@@ -151,7 +151,7 @@ SchemeChange SchemeChange::Builder::Take()
     const auto isBefore = [](const Source& a, const Source& b) { return a.strText < b.strText; };
     if (!std::is_sorted(m_change.m_sources.cbegin(), m_change.m_sources.cend(), isBefore))
         std::stable_sort(m_change.m_sources.begin(), m_change.m_sources.end(), isBefore);
-    const SchemeChange change = m_change;
+    SchemeChange change = m_change;
     *this = Builder();
     return change;
 }

@@ -61,7 +61,7 @@ public:
     bool Flag() { return Get<quint8>() != 0; }
     QString Key()
     {
-        const QString strKey = Get<QString>();
+        QString strKey = Get<QString>();
         Require(strKey.size() <= MaxKeyLength);
         return strKey;
     }
