@@ -64,6 +64,20 @@ SiteIndex::SiteIndex(const Site& site)
     }
 }
 
+QStringList SiteIndex::Sources() const
+{
+    QStringList sources;
+    for (const DeviceInfo& device : m_site.devices) {
+        sources.append(SourceOf(device));
+        for (const ChannelInfo& channel : device.channels) {
+            const QString source = SourceOf(device, channel);
+            if (!source.isEmpty())
+                sources.append(source);
+        }
+    }
+    return sources;
+}
+
 const DeviceInfo* SiteIndex::FindDevice(int64_t iDeviceId) const
 {
     const auto found = m_devices.constFind(iDeviceId);

@@ -34,6 +34,9 @@ public:
     /// The device that a source belongs to; null when the site does not have it.
     const VantaLogic::DeviceInfo* DeviceOf(const QString& strSource) const;
 
+    /// Every source of the site, each device followed by its doors and alarm inputs, in the site's order.
+    QStringList Sources() const;
+
     /// Names for people: "device/door", or the device alone; the text itself when the site does not know it.
     QString NameOfSource(const QString& strSource) const;
     QString NameOfOutput(const QString& strOutput) const;

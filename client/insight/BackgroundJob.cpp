@@ -1,0 +1,49 @@
+#include "client/insight/BackgroundJob.h"
+
+BackgroundJob::BackgroundJob(QObject* parent)
+    : QObject(parent)
+{
+    m_pool.setMaxThreadCount(1);
+}
+
+BackgroundJob::~BackgroundJob()
+{
+    if (m_stop) {
+        *m_stop = true;
+    }
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+void BackgroundJob::Start(const Work& work)
+{
+    const bool bWasRunning = IsRunning();
+    if (m_stop) {
+        *m_stop = true;
+    }
+    const auto stop = std::make_shared<Stop>(false);
+    m_stop = stop;
+    m_pool.start([this, work, stop] {
+        const Result result = *stop ? Result() : work(*stop);
+        // The object stands: its end waits for this thread.
+        QMetaObject::invokeMethod(
+            this, [this, stop, result] { Finish(stop, result); }, Qt::QueuedConnection);
+    });
+    if (!bWasRunning) {
+        Q_EMIT SignalRunningChanged(true);
+    }
+}
+
+void BackgroundJob::Finish(const std::shared_ptr<Stop>& stop, const Result& result)
+{
+    if (stop != m_stop) {
+        return;
+    }
+    m_stop.reset();
+    if (result) {
+        result();
+    }
+    if (!m_stop) {
+        Q_EMIT SignalRunningChanged(false);
+    }
+}
