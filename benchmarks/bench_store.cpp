@@ -5,12 +5,13 @@
 // else, for a program that counts instructions.
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
-#include "client/store/StoredSchemes.h"
+#include "client/store/AlarmSchemeStoreBackend.h"
 #include "platform/SystemLibrary/SystemPaths.h"
 #include "platform/lxl/DPrintLog.h"
 
 #include <benchmark/benchmark.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -23,7 +24,6 @@
 #include <cstring>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #ifdef __GLIBC__
@@ -330,11 +330,11 @@ void save_again_vs_raw(benchmark::State& state)
 }
 
 /// As the client saves: compare with what the file holds, then write what differs.
-void SaveChanges(StoredSchemes& stored, const AlarmInfoMap& map, int iExpected)
+void SaveChanges(AlarmSchemeStoreBackend& client, const AlarmInfoMap& map, int iExpected)
 {
-    SaveProgress progress;
-    const SaveResult result = stored.Save(map, std::nullopt, progress);
-    Check(result.eReason == SchemeStoreOutcome::Reason::None && result.iSchemes == iExpected,
+    client.Save(map);
+    client.WaitForSaves();
+    Check(client.LastOutcome().IsSuccess() && client.LastOutcome().iSchemes == iExpected,
           "a save of changes failed");
 }
 
@@ -345,21 +345,21 @@ void save_one_vs_whole(benchmark::State& state)
         AlarmSchemeDatabaseParser store;
         Save(store, Schemes(Count(state)));
     }
-    StoredSchemes stored(std::chrono::seconds(5));
+    AlarmSchemeStoreBackend client;
     AlarmInfoMap map; // a program works on what it has loaded
-    Check(stored.Load(map).eReason == SchemeStoreOutcome::Reason::None, "the load failed");
+    Check(client.Load(map) == 0, "the load failed");
     Timing timing;
     int turn = 0;
     for (auto _ : state) {
         for (int change = 0; change < 5; ++change) {
             AlarmInfo& changed = *std::next(map.begin(), ++turn * 37 % map.size());
             changed.bOpenSound = !changed.bOpenSound;
-            timing.store.push_back(Seconds([&] { SaveChanges(stored, map, 1); }));
+            timing.store.push_back(Seconds([&] { SaveChanges(client, map, 1); }));
         }
         state.SetIterationTime(timing.store.back());
         for (AlarmInfo& info : map)
             info.bOpenSound = !info.bOpenSound;
-        timing.raw.push_back(Seconds([&] { SaveChanges(stored, map, map.size()); }));
+        timing.raw.push_back(Seconds([&] { SaveChanges(client, map, Count(state)); }));
     }
     Report(state, timing);
 }
@@ -415,6 +415,7 @@ BENCHMARK(bytes_per_default_scheme)->Apply(Sizes);
 
 int main(int argc, char** argv)
 {
+    const QCoreApplication application(argc, argv); // the client's saves report through the event loop
     lxl::DPrintLog::instance().SetStandardError(false);
     if (argc == 3 && QByteArray(argv[1]) == "--instructions")
         return RunOnce(argv[2]);
