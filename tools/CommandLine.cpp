@@ -1,5 +1,6 @@
 #include "tools/CommandLine.h"
 
+#include "tools/BackupCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/DiffCommand.h"
 #include "tools/ExplainCommand.h"
@@ -7,6 +8,7 @@
 #include "tools/ImportCommand.h"
 #include "tools/ListCommand.h"
 #include "tools/MakeSiteCommand.h"
+#include "tools/RestoreCommand.h"
 #include "tools/ShowCommand.h"
 #include "tools/WhoSwitchesCommand.h"
 
@@ -24,6 +26,8 @@ CommandLine::CommandLine()
     m_commands.push_back(std::make_unique<ExportCommand>());
     m_commands.push_back(std::make_unique<ImportCommand>());
     m_commands.push_back(std::make_unique<DiffCommand>());
+    m_commands.push_back(std::make_unique<BackupCommand>());
+    m_commands.push_back(std::make_unique<RestoreCommand>());
     m_commands.push_back(std::make_unique<MakeSiteCommand>());
 }
 

@@ -110,18 +110,25 @@ std::vector<Room> MakeRooms()
                      QtReach::Core,
                      false,
                      {records, systemLibrary, Text("platform/SiteLibrary/"), Text("platform/VantaLogic/")}});
+    rooms.push_back({Text("scheme_services/site/"),
+                     QtReach::Core,
+                     false,
+                     {Text("platform/VantaLogic/"), Text("platform/SiteLibrary/")}});
     rooms.push_back({Text("scheme_services/"),
                      QtReach::Core,
                      false,
                      {records, store, systemLibrary, Text("scheme_services/evaluation/")}});
-    rooms.push_back({Text("tools/"), QtReach::Gui, false,
-                     platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
+    rooms.push_back(
+        {Text("tools/"), QtReach::Gui, false,
+         platformWithoutWidgets + QStringList{records, store, Text("scheme_services/"),
+                                              Text("scheme_services/site/"), Text("client/store/")}});
     rooms.push_back({Text("client/store/"), QtReach::Core, true,
                      platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
     rooms.push_back({Text("client/mail/"), QtReach::Core, false, {systemLibrary}});
     rooms.push_back({Text("client/"), QtReach::Widgets, false,
                      wholePlatform + QStringList{records, store, tiles, modulePlatform, Text("client/store/"),
-                                                 Text("client/mail/"), Text("scheme_services/")}});
+                                                 Text("client/mail/"), Text("scheme_services/"),
+                                                 Text("scheme_services/site/")}});
     return rooms;
 }
 

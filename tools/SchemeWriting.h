@@ -1,0 +1,27 @@
+#pragma once
+
+#include "AlarmCtrl/AlarmSchemeData/AlarmInfo.h"
+#include "tools/CommandEnvironment.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+struct SaveResult;
+
+/// Writing into a database that clients may have open at the same time: all or nothing, noted in the history,
+/// after a backup of what was there where one is due. Clients see it as another program's change.
+class SchemeWriting
+{
+    Q_DECLARE_TR_FUNCTIONS(SchemeWriting)
+
+public:
+    SchemeWriting() = delete;
+
+    /// The listed schemes take the place of those of the same keys, whole; with bOnly all others are deleted.
+    /// A database that is missing is made. False when nothing was changed; then it has been said why.
+    static bool Import(const QString& strDatabase, const AlarmInfoMap& schemes, bool bOnly,
+                       const QString& strNote, CommandEnvironment& environment);
+
+    /// Says what has gone wrong; whether the database was written.
+    static bool Tell(const SaveResult& result, CommandEnvironment& environment);
+};
