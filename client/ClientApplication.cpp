@@ -6,6 +6,7 @@
 #include "client/ClientTranslations.h"
 #include "client/DraftKeeper.h"
 #include "client/DraftOffer.h"
+#include "client/InsightPages.h"
 #include "client/MainWindow.h"
 #include "client/RecoveredPages.h"
 #include "client/SchemeSaving.h"
@@ -100,6 +101,7 @@ void ClientApplication::Stop()
         CLIENT_LOG(lxl::LogWarning, "the settings cannot be written: %s",
                    qUtf8Printable(m_settings->FileName()));
     }
+    m_insight.reset();
     AlarmSchemeManager::Instance()->SetBackend(nullptr);
     m_saving.reset();
     m_drafts.reset();
@@ -212,6 +214,8 @@ void ClientApplication::PrepareSchemes()
     auto backend = std::make_unique<AlarmSchemeStoreBackend>();
     backend->SetAuthor(&SystemUser::Name);
     m_saving = std::make_unique<SchemeSaving>(*backend, *m_window);
+    m_insight = std::make_unique<InsightPages>(m_window->Pages(), *m_site, *backend);
+    m_insight->FillMenu(m_window->SchemesMenu());
     m_drafts = std::make_unique<DraftKeeper>(QGetDatabaseDirPath(), m_window->Pages());
     m_drafts->Follow(backend.get());
     connect(&m_window->Unsaved(), &UnsavedWork::SignalDiscarded, m_drafts.get(), &DraftKeeper::Forget);
@@ -233,7 +237,9 @@ void ClientApplication::LoadPlugins()
 void ClientApplication::OpenFirstPages()
 {
     if (!m_options.strOpenModule.isEmpty()) {
-        m_window->OpenPage(m_options.strOpenModule);
+        if (!m_insight->Open(m_options.strOpenModule)) {
+            m_window->OpenPage(m_options.strOpenModule);
+        }
     } else if (m_options.strPictureFile.isEmpty()) {
         const QStringList keys = m_settings->OpenPages();
         for (const QString& strKey : keys) {

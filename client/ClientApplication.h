@@ -15,6 +15,7 @@ class ClientSettings;
 class ClientTranslations;
 class DraftKeeper;
 class DraftOffer;
+class InsightPages;
 class MainWindow;
 class SchemeSaving;
 class SessionEnd;
@@ -80,5 +81,6 @@ private:
     std::unique_ptr<DraftKeeper> m_drafts;
     std::unique_ptr<DraftOffer> m_draftOffer;
     std::unique_ptr<SessionEnd> m_sessionEnd;
+    std::unique_ptr<InsightPages> m_insight;
     std::unique_ptr<PluginLoader> m_plugins;
 };

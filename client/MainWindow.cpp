@@ -68,8 +68,14 @@ MainWindow::~MainWindow()
     delete m_pPages;
 }
 
+QMenu& MainWindow::SchemesMenu() const
+{
+    return *ui->menuSchemes;
+}
+
 void MainWindow::BuildStatusBar()
 {
+    ui->statusBar->setAccessibleName(tr("Status"));
     m_pEdited = new ElidedLabel(this);
     m_pEdited->setObjectName(QStringLiteral("lblEditedScheme"));
     ui->statusBar->addWidget(m_pEdited, 1);
@@ -242,6 +248,7 @@ void MainWindow::AddProblem(const QString& strText)
 void MainWindow::SetSite(const QString& strFile, int iDevices)
 {
     m_pSite->setText(tr("%1: %n device(s)", nullptr, iDevices).arg(QFileInfo(strFile).fileName()));
+    m_pHome->ShowEmptySite(iDevices == 0 ? QDir::toNativeSeparators(strFile) : QString());
     m_pSite->setToolTip(QDir::toNativeSeparators(strFile).toHtmlEscaped());
 }
 

@@ -17,6 +17,7 @@ class PageTabs;
 class PluginLoader;
 class QActionGroup;
 class QLabel;
+class QMenu;
 class SaveIndicator;
 class UnsavedWork;
 struct SchemeStoreOutcome;
@@ -48,6 +49,7 @@ public:
     QList<QPointer<QWidget>> OpenPages() const; ///< in the order of the tabs
     QString KeyOfPage(QWidget* pPage) const;    ///< empty for the home page and for strangers
     PageTabs& Pages() const { return *m_pPages; }
+    QMenu& SchemesMenu() const; ///< for what looks at the schemes as a whole
     UnsavedWork& Unsaved() const { return *m_pUnsavedWork; }
 
     /// A problem of the start: a line on the home page and a note.
