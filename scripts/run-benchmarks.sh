@@ -41,7 +41,11 @@ measured_by = {
     },
 }
 
+# What costs as much for each scheme of many as of few: the time for one at the greatest size to that at the least.
+grows = {"load_vs_raw": "load_growth", "save_new_vs_raw": "save_new_growth", "save_again_vs_raw": "save_again_growth"}
+
 figures = []
+per_scheme = {}
 for path in sorted(pathlib.Path(sys.argv[2]).glob("*.json")):
     for run in json.loads(path.read_text())["benchmarks"]:
         value = run.get("ratio", run.get("number"))
@@ -50,6 +54,8 @@ for path in sorted(pathlib.Path(sys.argv[2]).glob("*.json")):
         name, *rest = run["run_name"].split("/")
         size = next((int(part) for part in rest if part.isdigit()), 1)
         figures.append({"name": name, "size": size, "ratio": round(value, 5)})
+        if "us_per_scheme" in run and name in grows:
+            per_scheme.setdefault(name, {})[size] = run["us_per_scheme"]
     times = {}
     for run in json.loads(path.read_text())["benchmarks"]:
         times.setdefault(run["run_name"].split("/iterations:")[0], run["real_time"])
@@ -59,6 +65,9 @@ for path in sorted(pathlib.Path(sys.argv[2]).glob("*.json")):
                 sys.exit(f"{path.stem} does not measure {operation} and {plain}")
             ratio = times[operation] / times[plain]
             figures.append({"name": f"{path.stem}/{operation}", "size": 1, "ratio": round(ratio, 5)})
+for name, sizes in per_scheme.items():
+    least, greatest = min(sizes), max(sizes)
+    figures.append({"name": grows[name], "size": greatest, "ratio": round(sizes[greatest] / sizes[least], 5)})
 pathlib.Path(sys.argv[1]).write_text(json.dumps({"figures": figures}, indent=1) + "\n")
 print()
 for figure in figures:
