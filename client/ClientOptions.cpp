@@ -110,8 +110,8 @@ ParsedOptions ClientOptionParser::Parse(const QStringList& arguments, const QStr
 QStringList ClientOptionParser::WithoutToolkitArguments(const QStringList& arguments)
 {
     const QStringList valued{QStringLiteral("-platform"), QStringLiteral("-platformtheme"),
-                             QStringLiteral("-style"), QStringLiteral("-display"),
-                             QStringLiteral("-geometry")};
+                             QStringLiteral("-style"),    QStringLiteral("-display"),
+                             QStringLiteral("-geometry"), QStringLiteral("-session")};
     QStringList kept;
     for (int i = 0; i < arguments.size(); ++i) {
         if (i > 0 && valued.contains(arguments.at(i))) {

@@ -21,6 +21,8 @@ HomePage::HomePage(QWidget* parent)
     const LXGUI::Theme& theme = LXGUI::Theme::Current();
     const QString strDim = theme.Resolve(QStringLiteral("QLabel { color: @dim; background: transparent; }"));
     ui->lblEmpty->setStyleSheet(strDim);
+    ui->lblNoDevices->setStyleSheet(strDim);
+    ui->lblNoDevices->hide();
     ui->verticalLayoutTiles->insertWidget(0, m_pTiles);
     ui->wndProblems->hide();
     m_pTiles->hide();
@@ -61,6 +63,14 @@ void HomePage::AddProblem(const QString& strText)
     pLayout->addWidget(pText, 1);
     ui->verticalLayoutProblems->addWidget(pLine);
     ui->wndProblems->show();
+}
+
+void HomePage::ShowEmptySite(const QString& strFile)
+{
+    ui->lblNoDevices->setText(
+        tr("The site has no devices; describe them in %1, or name another file with --site, and start again.")
+            .arg(strFile));
+    ui->lblNoDevices->setVisible(!strFile.isEmpty());
 }
 
 const QList<PluginTile*>& HomePage::Tiles() const

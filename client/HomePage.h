@@ -24,6 +24,8 @@ public:
 
     void AddTile(const PluginInfo& info);
     void AddProblem(const QString& strText);
+    /// Says what to do about a site without devices, described in this file; an empty path says nothing.
+    void ShowEmptySite(const QString& strFile);
     QStringList Problems() const { return m_problems; }
     const QList<PluginTile*>& Tiles() const;
     void FocusFirstTile();

@@ -18,6 +18,8 @@ PageTabs::PageTabs(QTabWidget& tabs, QWidget& home, QObject* parent)
     , m_home(home)
 {
     m_tabs.addTab(&m_home, tr("Home"));
+    m_tabs.setAccessibleName(tr("Pages"));
+    m_tabs.tabBar()->setAccessibleName(tr("Pages"));
     for (const QTabBar::ButtonPosition side : {QTabBar::LeftSide, QTabBar::RightSide}) {
         m_tabs.tabBar()->setTabButton(0, side, nullptr);
     }
@@ -36,7 +38,12 @@ void PageTabs::Show(QWidget* pPage, const QString& strKey, const QString& strTit
     if (IndexOf(pPage) < 0) {
         pPage->setProperty(KeyProperty, strKey);
         pPage->setProperty(TitleProperty, strTitle);
-        m_tabs.addTab(pPage, QString());
+        const int iTab = m_tabs.addTab(pPage, QString());
+        for (const QTabBar::ButtonPosition side : {QTabBar::LeftSide, QTabBar::RightSide}) {
+            if (QWidget* const pClose = m_tabs.tabBar()->tabButton(iTab, side)) {
+                pClose->setAccessibleName(tr("Close %1").arg(strTitle));
+            }
+        }
         Mark(pPage);
     }
     if (bNew) {

@@ -22,6 +22,7 @@ SaveIndicator::SaveIndicator(QWidget* parent)
     m_pBar->setObjectName(QStringLiteral("barSaved"));
     m_pBar->setFixedSize(BarWidth, BarHeight);
     m_pBar->setTextVisible(false);
+    m_pBar->setAccessibleName(tr("Schemes saved"));
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pText);

@@ -11,6 +11,7 @@
 #include "platform/SystemLibrary/QCommon.h"
 #include "platform/SystemLibrary/SystemPaths.h"
 
+#include <QAction>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void takingDownDestroysPagesFirst();
     void takingDownLeavesNoBackendAndNoRemoval();
     void mailSettingsComeBackAtTheNextStart();
+    void aChosenLanguageIsSpokenFromTheNextStartOn();
+    void aSiteWithoutDevicesSaysWhatToDo();
     void whatWasUnfoldedComesBackAtTheNextStart();
     void closingTheWindowEndsTheClient();
     void aPictureOfTheWindowIsWritten();
@@ -244,6 +247,44 @@ void TestClientApplication::mailSettingsComeBackAtTheNextStart()
     QSystem::GetInstance()->SetMailSettings({}); // the client has gone and must not notice
     QVERIFY(Start());
     QVERIFY(QSystem::GetInstance()->GetMailSettings() == mail);
+}
+
+void TestClientApplication::aChosenLanguageIsSpokenFromTheNextStartOn()
+{
+    const auto action = [this](const char* szName) {
+        return m_client->Window()->findChild<QAction*>(QLatin1String(szName));
+    };
+    ClientSettings(ClientPaths::SettingsFile(m_data->path())).SetLanguage(QStringLiteral("en"));
+    QVERIFY(Start());
+    QCOMPARE(QSystem::GetInstance()->GetLanguage(), QStringLiteral("en"));
+    QVERIFY(action("actionEnglish")->isChecked());
+    action("actionChinese")->trigger();
+    QCOMPARE(QSystem::GetInstance()->GetLanguage(), QStringLiteral("en")); // not while it runs
+    m_client.reset();
+    QVERIFY(Start());
+    QCOMPARE(QSystem::GetInstance()->GetLanguage(), QStringLiteral("zh_cn"));
+    QVERIFY(action("actionChinese")->isChecked() && !action("actionEnglish")->isChecked());
+    m_client.reset();
+    // What is asked for on the command line holds for one start.
+    m_options.strLanguage = QStringLiteral("en");
+    QVERIFY(Start());
+    QCOMPARE(QSystem::GetInstance()->GetLanguage(), QStringLiteral("en"));
+    m_client.reset();
+    QCOMPARE(ClientSettings(ClientPaths::SettingsFile(m_data->path())).Language(), QStringLiteral("zh_cn"));
+}
+
+void TestClientApplication::aSiteWithoutDevicesSaysWhatToDo()
+{
+    QVERIFY(Start());
+    const auto label = [this] {
+        return m_client->Window()->Home()->findChild<QLabel*>(QStringLiteral("lblNoDevices"));
+    };
+    QVERIFY(!label()->isVisible());
+    m_client.reset();
+    m_options.strSiteFile = m_data->filePath(QStringLiteral("missing.json"));
+    QVERIFY(Start());
+    QVERIFY(label()->isVisible());
+    QVERIFY(label()->text().contains(QStringLiteral("missing.json")));
 }
 
 void TestClientApplication::whatWasUnfoldedComesBackAtTheNextStart()

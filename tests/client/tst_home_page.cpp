@@ -29,6 +29,7 @@ class TestHomePage : public QObject
 
 private Q_SLOTS:
     void withoutModulesItSaysWhatIsMissing();
+    void withoutDevicesItSaysWhatToDo();
     void everyModuleGetsATileWithTitleAndDescription();
     void aClickOpensTheModule();
     void spaceAndReturnOpenTheModuleWithTheFocus();
@@ -48,6 +49,20 @@ void TestHomePage::withoutModulesItSaysWhatIsMissing()
     page.FocusFirstTile(); // no tile, no harm
     page.AddTile(Info(QStringLiteral("a")));
     QVERIFY(!page.findChild<QLabel*>(QStringLiteral("lblEmpty"))->isVisible());
+}
+
+void TestHomePage::withoutDevicesItSaysWhatToDo()
+{
+    HomePage page;
+    page.show();
+    const auto* const pLabel = page.findChild<QLabel*>(QStringLiteral("lblNoDevices"));
+    QVERIFY(!pLabel->isVisible());
+    page.ShowEmptySite(QStringLiteral("/data/<b>site</b>.json"));
+    QVERIFY(pLabel->isVisible());
+    QVERIFY2(pLabel->text().contains(QStringLiteral("/data/<b>site</b>.json")), qPrintable(pLabel->text()));
+    QCOMPARE(pLabel->textFormat(), Qt::PlainText);
+    page.ShowEmptySite(QString());
+    QVERIFY(!pLabel->isVisible());
 }
 
 void TestHomePage::everyModuleGetsATileWithTitleAndDescription()
