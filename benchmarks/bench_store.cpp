@@ -4,9 +4,8 @@
 // "--instructions save" and "--instructions load" do one save, or one load, of 1,000 schemes and nothing
 // else, for a program that counts instructions.
 
-#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
+#include "benchmarks/SchemesToMeasure.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
-#include "platform/SystemLibrary/SystemPaths.h"
 #include "platform/lxl/DPrintLog.h"
 
 #include <benchmark/benchmark.h>
@@ -32,10 +31,6 @@
 
 namespace {
 
-constexpr int s_iTypesOfDoor = 80;
-constexpr int s_iOutputs = 500;
-constexpr int s_iCameras = 300;
-
 /// Bytes that the heap holds; 0 where the platform does not tell.
 double HeapBytes()
 {
@@ -45,74 +40,6 @@ double HeapBytes()
 #else
     return 0.0;
 #endif
-}
-
-double Seconds(const std::function<void()>& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-AlarmInfo RichScheme(int iScheme)
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    info.bOpenSound = true;
-    info.videoSplit.SplitRow = 2;
-    info.videoSplit.SplitCloum = 2;
-    info.videoSplit.SplitCount = 4;
-    info.videoSplit.cells[iScheme % 4].iCombine = 1;
-    for (int window = 0; window < 2; ++window) {
-        info.videoSplit.videoLinks[window].strLinkDevID =
-            EventSource::Door(9000000 + (iScheme + window) % s_iCameras, 1);
-    }
-    for (int link = 0; link < 3; ++link) {
-        info.listAlarmOut.append(
-            AlarmLinkAlarmOut{EventSource::AlarmOutput(8000000 + (iScheme + link) % s_iOutputs), true, 20});
-    }
-    for (int day = 1; day < 6; ++day)
-        info.defenceTime[day] = {{0, 7 * 3600 + 60 * (iScheme % 60)}, {18 * 3600, 86399}};
-    return info;
-}
-
-AlarmInfoMap Schemes(int iCount)
-{
-    AlarmInfoMap map;
-    for (int scheme = 0; scheme < iCount; ++scheme) {
-        const AlarmSourceKey key{EventSource::Door(1 + scheme / s_iTypesOfDoor / 8, scheme / s_iTypesOfDoor),
-                                 scheme % s_iTypesOfDoor};
-        map.insert(key, scheme % 3 == 0 ? RichScheme(scheme) : AlarmInfo());
-    }
-    return map;
-}
-
-/// A data directory of its own, in effect during the object's life.
-class Folder
-{
-public:
-    Folder()
-    {
-        SystemPaths::SetDataDirectory(m_directory.path());
-        QDir().mkpath(QGetDatabaseDirPath());
-    }
-    ~Folder() { SystemPaths::SetDataDirectory(QString()); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    QString File() const
-    {
-        return QDir(QGetDatabaseDirPath()).absoluteFilePath(QStringLiteral("AlarmScheme.db"));
-    }
-    QString Other() const { return QDir(m_directory.path()).absoluteFilePath(QStringLiteral("raw.db")); }
-
-private:
-    QTemporaryDir m_directory;
-};
-
-void Check(bool bFine, const char* szWhat)
-{
-    if (!bFine)
-        qFatal("%s", szWhat);
 }
 
 constexpr std::array<const char*, 9> s_tables{
@@ -231,36 +158,6 @@ private:
     std::vector<Table> m_rows;
 };
 
-/// Some runs, the store's and the raw pass's turn by turn. The fastest of each counts: what else the machine
-/// does never makes a run faster.
-struct Timing
-{
-    double Ratio() const { return Fastest(store) / Fastest(raw); }
-    static double Fastest(const std::vector<double>& times)
-    {
-        return *std::min_element(times.cbegin(), times.cend());
-    }
-    std::vector<double> store;
-    std::vector<double> raw;
-};
-
-void Report(benchmark::State& state, const Timing& timing)
-{
-    const double count = static_cast<double>(state.range(0));
-    state.counters["ratio"] = timing.Ratio();
-    state.counters["us_per_scheme"] = Timing::Fastest(timing.store) * 1e6 / count;
-}
-
-int Count(const benchmark::State& state)
-{
-    return static_cast<int>(state.range(0));
-}
-
-void Save(AlarmSchemeDatabaseParser& store, const AlarmInfoMap& map)
-{
-    Check(store.SaveAll(&map) == 0 && store.FailedStatements() == 0, "a save failed");
-}
-
 void load_vs_raw(benchmark::State& state)
 {
     const Folder folder;
@@ -272,12 +169,12 @@ void load_vs_raw(benchmark::State& state)
     AlarmInfoMap scanned = raw.Scan();
     for (auto _ : state) {
         AlarmInfoMap loaded;
-        timing.store.push_back(Seconds([&] { store.ReadAll(&loaded); }));
+        timing.RunStore([&] { store.ReadAll(&loaded); });
         state.SetIterationTime(timing.store.back());
         Check(loaded.size() == map.size(), "schemes are missing");
         loaded.clear();
         scanned.clear();
-        timing.raw.push_back(Seconds([&] { scanned = raw.Scan(); }));
+        timing.RunRaw([&] { scanned = raw.Scan(); });
     }
     Report(state, timing);
 }
@@ -305,7 +202,7 @@ void SaveBesideRaw(benchmark::State& state, bool bAgain)
         AlarmSchemeDatabaseParser store;
         if (bAgain)
             Save(store, map);
-        timing.store.push_back(Seconds([&] { Save(store, map); }));
+        timing.RunStore([&] { Save(store, map); });
         state.SetIterationTime(timing.store.back());
 
         RawPass from(folder.File());
@@ -313,7 +210,7 @@ void SaveBesideRaw(benchmark::State& state, bool bAgain)
         // The ids of the schemes are those of an empty file; rows that refer to them go in unchanged.
         Check(QFile::copy(empty, folder.Other()), "cannot copy a file");
         RawPass raw(folder.Other());
-        timing.raw.push_back(Seconds([&] { raw.Insert(from); }));
+        timing.RunRaw([&] { raw.Insert(from); });
         from.Forget();
     }
     Report(state, timing);
@@ -354,12 +251,12 @@ void save_one_vs_whole(benchmark::State& state)
         for (int change = 0; change < 5; ++change) {
             AlarmInfo& changed = *std::next(map.begin(), ++turn * 37 % map.size());
             changed.bOpenSound = !changed.bOpenSound;
-            timing.store.push_back(Seconds([&] { SaveChanges(client, map, 1); }));
+            timing.RunStore([&] { SaveChanges(client, map, 1); });
         }
         state.SetIterationTime(timing.store.back());
         for (AlarmInfo& info : map)
             info.bOpenSound = !info.bOpenSound;
-        timing.raw.push_back(Seconds([&] { SaveChanges(client, map, Count(state)); }));
+        timing.RunRaw([&] { SaveChanges(client, map, Count(state)); });
     }
     Report(state, timing);
 }

@@ -41,7 +41,8 @@ measured_by = {
     },
 }
 
-# What costs as much for each scheme of many as of few: the time for one at the greatest size to that at the least.
+# What costs as much for each scheme of many as of few: the processor's time for one at the greatest size to that at
+# the least. (What else the machine does makes a long run slower than a short one, so not the time of day.)
 grows = {"load_vs_raw": "load_growth", "save_new_vs_raw": "save_new_growth", "save_again_vs_raw": "save_again_growth"}
 
 figures = []
@@ -54,8 +55,8 @@ for path in sorted(pathlib.Path(sys.argv[2]).glob("*.json")):
         name, *rest = run["run_name"].split("/")
         size = next((int(part) for part in rest if part.isdigit()), 1)
         figures.append({"name": name, "size": size, "ratio": round(value, 5)})
-        if "us_per_scheme" in run and name in grows:
-            per_scheme.setdefault(name, {})[size] = run["us_per_scheme"]
+        if "processor_us_per_scheme" in run and name in grows:
+            per_scheme.setdefault(name, {})[size] = run["processor_us_per_scheme"]
     times = {}
     for run in json.loads(path.read_text())["benchmarks"]:
         times.setdefault(run["run_name"].split("/iterations:")[0], run["real_time"])
