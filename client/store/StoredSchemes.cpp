@@ -128,9 +128,9 @@ SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<Sche
         if (!made.bAsk || agreed)
             return std::nullopt;
         m_asked = theirs;
-        SaveResult result;
-        result.eReason = Reason::Conflict;
-        result.conflict = SchemeConflict{made.iForeign, made.iBoth};
+        std::optional<SaveResult> result(std::in_place);
+        result->eReason = Reason::Conflict;
+        result->conflict = SchemeConflict{made.iForeign, made.iBoth};
         return result;
     };
     SaveResult result = Run(plan, origin, progress, true);
