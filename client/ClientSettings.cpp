@@ -48,12 +48,21 @@ SystemMailEncryption EncryptionOf(const QString& strName)
     return SystemMailEncryption::StartTls;
 }
 
+void SpeakUtf8(QSettings& settings)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    settings.setIniCodec("UTF-8");
+#else
+    Q_UNUSED(settings) // never speaks anything else
+#endif
+}
+
 } // namespace
 
 ClientSettings::ClientSettings(const QString& strFile)
     : m_settings(strFile, QSettings::IniFormat)
 {
-    m_settings.setIniCodec("UTF-8");
+    SpeakUtf8(m_settings);
 }
 
 QString ClientSettings::Language() const
@@ -102,7 +111,7 @@ SystemMailSettings ClientSettings::Mail() const
 {
     // QSettings reads arrays through a state of its own; a second object leaves this one const.
     QSettings reader(m_settings.fileName(), QSettings::IniFormat);
-    reader.setIniCodec("UTF-8");
+    SpeakUtf8(reader);
     SystemMailSettings mail;
     mail.bEnable = reader.value(KeyMailEnabled).toBool();
     const int iCount = qBound(0, reader.beginReadArray(MailServers), MaximumMailServers);

@@ -91,9 +91,10 @@ int CheckCommand::Run(const QStringList& arguments, CommandEnvironment& environm
     findings.erase(std::remove_if(findings.begin(), findings.end(),
                                   [&silenced](const Finding& finding) { return silenced.Holds(finding); }),
                    findings.end());
-    const Counts counts{input.schemes.size(), Count(findings, FindingSeverity::Error),
+    const Counts counts{static_cast<int>(input.schemes.size()), Count(findings, FindingSeverity::Error),
                         Count(findings, FindingSeverity::Warning),
-                        Count(findings, FindingSeverity::Information), all - findings.size()};
+                        Count(findings, FindingSeverity::Information),
+                        static_cast<int>(all - findings.size())};
     if (options.IsJson()) {
         JsonList list(environment.out, QStringLiteral("acs-scheme-check"), QStringLiteral("findings"));
         for (const Finding& finding : qAsConst(findings))

@@ -91,10 +91,10 @@ int ListCommand::Run(const QStringList& arguments, CommandEnvironment& environme
     }
     int width = 0;
     for (const Scheme& scheme : schemes)
-        width = std::max(width, std::min(scheme.key().strEventSource.size(), WidestColumn));
+        width = std::max(width, std::min<int>(scheme.key().strEventSource.size(), WidestColumn));
     const QString strOn = tr("on");
     const QString strOff = tr("off");
-    const int stateWidth = std::max(strOn.size(), strOff.size());
+    const int stateWidth = std::max<int>(strOn.size(), strOff.size());
     const auto state = [&](bool bOpen) { return (bOpen ? strOn : strOff).leftJustified(stateWidth); };
     int on = 0;
     for (const Scheme& scheme : schemes) {
