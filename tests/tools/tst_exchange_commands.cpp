@@ -164,7 +164,7 @@ void TestExchangeCommands::anExportChangesNothing()
 void TestExchangeCommands::exportImportExportGivesTheSameText()
 {
     int same = 0;
-    for (quint32 seed = 1; seed <= 25; ++seed) {
+    for (quint32 seed = 1; seed <= 8; ++seed) {
         const Data data(RandomSchemes(seed).Map());
         const QString text = data->File("export.json");
         const QString database = data->File("new.db");
@@ -185,7 +185,7 @@ void TestExchangeCommands::exportImportExportGivesTheSameText()
         if (!nothing)
             QVERIFY2(again.out.toUtf8() == Bytes(text), qPrintable(QString::number(seed)));
     }
-    QVERIFY(same > 12);
+    QVERIFY(same > 3);
 }
 
 void TestExchangeCommands::anImportMergesOrReplaces()
