@@ -12,8 +12,9 @@ SchemeDamageDialog::SchemeDamageDialog(const SchemeDamage& damage, QWidget* pare
     setObjectName(QStringLiteral("SchemeDamageDialog"));
     ui->setupUi(GetCentralWidget());
     SetTitle(tr("The scheme database is damaged"));
-    QString strText = tr("The file %1 is damaged. Not all of its schemes can be read, and none can be saved.")
-                          .arg(QDir::toNativeSeparators(damage.strFile));
+    QString strText =
+        tr("The file %1 is damaged. What can still be read of it is shown; nothing can be saved.")
+            .arg(QDir::toNativeSeparators(damage.strFile));
     strText += QLatin1Char('\n') + tr("Whatever you choose, the damaged file is kept.");
     if (damage.backup) {
         ui->btnRestore->setText(

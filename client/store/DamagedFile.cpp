@@ -60,7 +60,11 @@ DamagedFile::Failure DamagedFile::ReplaceBy(const QString& strBackup)
     const QString restored = m_strDatabase + Restored;
     RemoveCopy(restoring);
     RemoveCopy(restored);
-    Failure failure = FileHealth::Inspect(strBackup).failure;
+    const FileHealth::Findings findings = FileHealth::Inspect(strBackup);
+    Failure failure = findings.failure;
+    if (!failure && !findings.bHoldsSchemes)
+        failure =
+            AlarmSchemeStatementFailure{SQLITE_NOTADB, QStringLiteral("%1 holds no schemes").arg(strBackup)};
     if (!failure)
         failure = DatabaseCopy::Copy(strBackup, restoring, std::chrono::milliseconds(0));
     if (!failure)

@@ -96,13 +96,14 @@ FileHealth::Findings FileHealth::Inspect(const QString& strPath)
     findings.failure = Check(raw, Depth::Full);
     if (!findings.failure)
         findings.failure = CheckSize(raw);
+    // SQLite takes a file without content for a database without tables.
+    if (!findings.failure && Number(raw, "select count(*) from sqlite_master") == 0)
+        findings.failure = AlarmSchemeStatementFailure{SQLITE_NOTADB, QStringLiteral("it holds no tables")};
     if (findings.failure)
         return findings;
     const std::optional<qint64> schemes =
         Number(raw, "select count(*) from (select distinct strEventSource, AlarmType from AlarmUniqueID)");
-    if (schemes)
-        findings.iSchemes = static_cast<int>(*schemes);
-    else
-        findings.failure = LastFailure(raw);
+    findings.bHoldsSchemes = schemes.has_value();
+    findings.iSchemes = static_cast<int>(schemes.value_or(0));
     return findings;
 }

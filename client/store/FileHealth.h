@@ -30,8 +30,11 @@ qint64 OrphanRows(sqlite3* pDatabase);
 /// What a look at a file from outside, at a backup for instance, has found.
 struct Findings
 {
-    std::optional<AlarmSchemeStatementFailure> failure; ///< nothing when it is a sound scheme database
-    int iSchemes = 0;                                   ///< only when it is
+    std::optional<AlarmSchemeStatementFailure> failure; ///< nothing when it is a sound database
+    bool bHoldsSchemes = false;                         ///< it has the table of schemes
+    int iSchemes = 0;
+
+    bool IsSoundSchemeFile() const { return !failure && bHoldsSchemes; }
 };
 
 /// Looks without locks and without leaving a trace at a file that nobody has open.

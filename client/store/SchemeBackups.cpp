@@ -124,6 +124,16 @@ bool SchemeBackups::IsDue() const
 
 Failure SchemeBackups::Make(std::chrono::milliseconds wait) const
 {
+    return Make(wait, false);
+}
+
+Failure SchemeBackups::MakeUnlessSame(std::chrono::milliseconds wait) const
+{
+    return Make(wait, true);
+}
+
+Failure SchemeBackups::Make(std::chrono::milliseconds wait, bool bUnlessSame) const
+{
     if (Failure failure = MakeFolder())
         return failure;
     RemoveLeftCopies();
@@ -134,6 +144,13 @@ Failure SchemeBackups::Make(std::chrono::milliseconds wait) const
     Failure failure = DatabaseCopy::Copy(m_strDatabase, copy, wait);
     if (!failure)
         failure = FileHealth::Inspect(copy).failure;
+    // The copy is compared, not the database: on some systems a program that closes a file loses the locks
+    // that it holds on it otherwise.
+    const QList<SchemeBackup> backups = bUnlessSame ? List() : QList<SchemeBackup>();
+    if (!failure && !backups.isEmpty() && HoldTheSame(backups.first().strPath, copy)) {
+        RemoveCopy(copy);
+        return std::nullopt;
+    }
     if (!failure)
         failure = Name(copy);
     if (failure)
@@ -143,20 +160,12 @@ Failure SchemeBackups::Make(std::chrono::milliseconds wait) const
     return failure;
 }
 
-Failure SchemeBackups::MakeUnlessSame(std::chrono::milliseconds wait) const
-{
-    const QList<SchemeBackup> backups = List();
-    if (!backups.isEmpty() && HoldTheSame(backups.first().strPath, m_strDatabase))
-        return std::nullopt;
-    return Make(wait);
-}
-
 std::optional<SchemeBackups::Sound> SchemeBackups::NewestSound() const
 {
     const QList<SchemeBackup> backups = List();
     for (const SchemeBackup& backup : backups) {
         const FileHealth::Findings findings = FileHealth::Inspect(backup.strPath);
-        if (!findings.failure)
+        if (findings.IsSoundSchemeFile())
             return Sound{backup, findings.iSchemes};
     }
     return std::nullopt;

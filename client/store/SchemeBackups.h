@@ -41,7 +41,7 @@ public:
     /// Nothing when the backup stands, and is then the first of the list; else why there is none, and the
     /// folder is as before. `wait` is the longest time to wait for other programs.
     std::optional<AlarmSchemeStatementFailure> Make(std::chrono::milliseconds wait) const;
-    /// The same, but only when the newest backup holds something else. Within a transaction of the caller.
+    /// The same, but a copy that equals the newest backup is none.
     std::optional<AlarmSchemeStatementFailure> MakeUnlessSame(std::chrono::milliseconds wait) const;
 
     struct Sound
@@ -55,6 +55,7 @@ public:
 private:
     std::optional<SchemeBackup> Parse(const QString& strName) const;
     std::optional<AlarmSchemeStatementFailure> MakeFolder() const;
+    std::optional<AlarmSchemeStatementFailure> Make(std::chrono::milliseconds wait, bool bUnlessSame) const;
     std::optional<AlarmSchemeStatementFailure> Name(const QString& strCopy) const;
     void RemoveOld() const;
     void RemoveLeftCopies() const;

@@ -124,7 +124,7 @@ void DamagedFileTest::aBackupTakesItsPlaceAndStays()
 void DamagedFileTest::aBackupThatIsNoneChangesNothing_data()
 {
     QTest::addColumn<QString>("kind");
-    for (const char* kind : {"missing", "empty", "letter", "damaged", "folder"})
+    for (const char* kind : {"missing", "empty", "letter", "damaged", "folder", "other"})
         QTest::newRow(kind) << QString::fromLatin1(kind);
 }
 
@@ -139,6 +139,8 @@ void DamagedFileTest::aBackupThatIsNoneChangesNothing()
         SchemeFiles::Write(m_strBackup, QByteArray());
     if (kind == QLatin1String("letter"))
         SchemeFiles::Write(m_strBackup, QByteArray(5000, 'x'));
+    if (kind == QLatin1String("other"))
+        QCOMPARE(RawDatabase(m_strBackup).Run(QStringLiteral("create table Other(a)")), 0);
     if (kind == QLatin1String("folder"))
         QVERIFY(QDir().mkpath(m_strBackup));
     const QStringList before = Names();

@@ -1,13 +1,16 @@
 #include "client/store/StoreConnection.h"
 
 #include "client/store/DurableJournal.h"
+#include "client/store/FileHealth.h"
 #include "client/store/SchemeBackups.h"
 #include "client/store/SchemeStoreOutcome.h"
 #include "client/store/UncleanEndMarker.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/client_store/SchemeFiles.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QProcess>
 #include <QtTest>
 
 #include <sqlite3.h>
@@ -41,6 +44,7 @@ private Q_SLOTS:
     void aFileOfTodayIsNotBackedUpByOpeningIt();
     void anUpgradeThatCannotComeAboutIsBackedUpOnce();
     void aFailingBackupIsToldAndTheUpgradeGoesOn();
+    void aBackupTakesNoLockAway();
     void anEmptyFileIsANewOneUnlessThereAreBackups();
     void aFolderInItsPlaceIsNoDamage();
     void aFileThatIsNamedIsCaredForInTheSameWay();
@@ -278,6 +282,8 @@ void StoreConnectionTest::anOldFileIsBackedUpBeforeItIsUpgraded_data()
     QTest::newRow("without the mail flag")
         << QStringLiteral("alter table AlarmBaseInfo drop column bSendEmail");
     QTest::newRow("without a table") << QStringLiteral("drop table AlarmSplitInfo");
+    QTest::newRow("of something else")
+        << QStringLiteral("drop table AlarmUniqueID; create table Other(a); insert into Other values(1)");
     QTest::newRow("without an index") << QStringLiteral("drop index AlarmBaseInfo_ByScheme");
     QTest::newRow("of another version") << QStringLiteral("update BaseInfo set Version = 'V1.00.0'");
 }
@@ -347,6 +353,28 @@ void StoreConnectionTest::aFailingBackupIsToldAndTheUpgradeGoesOn()
              QStringLiteral("1"));
 }
 
+void StoreConnectionTest::aBackupTakesNoLockAway()
+{
+    QCOMPARE(RawDatabase(m_folder->File()).Run(QStringLiteral("update BaseInfo set Version = 'V1.00.0'")), 0);
+    QVERIFY(!Backups().Make(std::chrono::milliseconds(0)));
+    RawDatabase writing(m_folder->File());
+    QCOMPARE(writing.Run(QStringLiteral("begin immediate; delete from AlarmUniqueID")), 0);
+    QVERIFY(!Backups().MakeUnlessSame(std::chrono::milliseconds(0)));
+    QVERIFY(!Backups().Make(std::chrono::milliseconds(0)));
+    QVERIFY(!FileHealth::Inspect(Backups().List().first().strPath).failure);
+    // Another process, which is what the locks are for.
+    QProcess other;
+    other.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--try-to-write"), m_folder->File()});
+    QVERIFY(other.waitForFinished());
+    QCOMPARE(other.exitCode(), SQLITE_BUSY);
+    QCOMPARE(writing.Run(QStringLiteral("rollback")), 0);
+    other.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--try-to-write"), m_folder->File()});
+    QVERIFY(other.waitForFinished());
+    QCOMPARE(other.exitCode(), SQLITE_OK);
+}
+
 void StoreConnectionTest::anEmptyFileIsANewOneUnlessThereAreBackups()
 {
     SchemeFiles::Write(m_folder->File(), QByteArray());
@@ -388,5 +416,13 @@ void StoreConnectionTest::aFileThatIsNamedIsCaredForInTheSameWay()
     QVERIFY(Backups().List().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(StoreConnectionTest)
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--try-to-write"))
+        return RawDatabase(arguments.value(2)).Run(QStringLiteral("begin immediate; rollback"));
+    StoreConnectionTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_store_connection.moc"
