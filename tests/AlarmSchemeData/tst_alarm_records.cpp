@@ -40,8 +40,16 @@ std::optional<size_t> HeapInUse()
 size_t ComputedBytes(const QString& key)
 {
     constexpr size_t bookkeeping = 16;
-    const size_t text = sizeof(QStringData) + (static_cast<size_t>(key.size()) + 1) * sizeof(QChar);
-    return sizeof(QMapNode<AlarmSourceKey, AlarmInfo>) + bookkeeping + text + bookkeeping;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    constexpr size_t textHead = sizeof(QStringData);
+    constexpr size_t node = sizeof(QMapNode<AlarmSourceKey, AlarmInfo>);
+#else
+    // A node of the standard library's map: colour, parent and two children beside the pair.
+    constexpr size_t textHead = sizeof(QArrayData);
+    constexpr size_t node = 4 * sizeof(void*) + sizeof(std::pair<const AlarmSourceKey, AlarmInfo>);
+#endif
+    const size_t text = textHead + (static_cast<size_t>(key.size()) + 1) * sizeof(QChar);
+    return node + bookkeeping + text + bookkeeping;
 }
 
 AlarmInfo WithOneLinkEach()

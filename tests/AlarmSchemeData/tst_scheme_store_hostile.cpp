@@ -97,7 +97,8 @@ void SchemeStoreHostileTest::aTruncatedFileStaysAsItIs()
     const LogCatcher log;
     const StoredSchemes stored;
     const QByteArray whole = stored.Folder().Bytes();
-    for (const int size : {100, 1000, 4096, whole.size() / 2, whole.size() - 4097}) {
+    const auto end = static_cast<int>(whole.size());
+    for (const int size : {100, 1000, 4096, end / 2, end - 4097}) {
         stored.Folder().Write(whole.left(size));
         {
             AlarmSchemeDatabaseParser store;
