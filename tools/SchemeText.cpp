@@ -10,7 +10,7 @@ namespace {
 
 bool IsHarmful(QChar character)
 {
-    const char16_t code = character.unicode();
+    const auto code = uint{character.unicode()};
     return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
            character.category() == QChar::Separator_Paragraph || (code >= 0x202A && code <= 0x202E) ||
            (code >= 0x2066 && code <= 0x2069);

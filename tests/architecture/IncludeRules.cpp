@@ -106,7 +106,8 @@ std::vector<Room> MakeRooms()
                      wholePlatform + QStringList{records, store, defenceTime, hostServices,
                                                  Text("AlarmCtrl/"), Text("scheme_editor/")}});
 
-    rooms.push_back({Text("scheme_services/evaluation/"),
+    const QString evaluation = Text("scheme_services/evaluation/");
+    rooms.push_back({evaluation,
                      QtReach::Core,
                      false,
                      {records, systemLibrary, Text("platform/SiteLibrary/"), Text("platform/VantaLogic/")}});
@@ -114,20 +115,18 @@ std::vector<Room> MakeRooms()
                      QtReach::Core,
                      false,
                      {Text("platform/VantaLogic/"), Text("platform/SiteLibrary/")}});
-    rooms.push_back({Text("scheme_services/"),
-                     QtReach::Core,
-                     false,
-                     {records, store, systemLibrary, Text("scheme_services/evaluation/")}});
+    rooms.push_back(
+        {Text("scheme_services/"), QtReach::Core, false, {records, store, systemLibrary, evaluation}});
     rooms.push_back(
         {Text("tools/"), QtReach::Gui, false,
-         platformWithoutWidgets + QStringList{records, store, Text("scheme_services/"),
+         platformWithoutWidgets + QStringList{records, store, Text("scheme_services/"), evaluation,
                                               Text("scheme_services/site/"), Text("client/store/")}});
     rooms.push_back({Text("client/store/"), QtReach::Core, true,
                      platformWithoutWidgets + QStringList{records, store, Text("scheme_services/")}});
     rooms.push_back({Text("client/mail/"), QtReach::Core, false, {systemLibrary}});
     rooms.push_back({Text("client/"), QtReach::Widgets, false,
                      wholePlatform + QStringList{records, store, tiles, modulePlatform, Text("client/store/"),
-                                                 Text("client/mail/"), Text("scheme_services/"),
+                                                 Text("client/mail/"), Text("scheme_services/"), evaluation,
                                                  Text("scheme_services/site/")}});
     return rooms;
 }

@@ -23,11 +23,15 @@ private Q_SLOTS:
 
 void TestEventCategories::everyListedTypeHasItsCategory()
 {
-    for (const int type : AlarmSchemeCommon::ACSAlarmEvent())
+    const QList<int> alarm = AlarmSchemeCommon::ACSAlarmEvent();
+    const QList<int> abnormal = AlarmSchemeCommon::ACSAbnormalEvent();
+    const QList<int> normal = AlarmSchemeCommon::ACSNormalEvent();
+    QVERIFY(!alarm.isEmpty() && !abnormal.isEmpty() && !normal.isEmpty());
+    for (const int type : alarm)
         QCOMPARE(EventCategories::CategoryOf(type), EventCategory::Alarm);
-    for (const int type : AlarmSchemeCommon::ACSAbnormalEvent())
+    for (const int type : abnormal)
         QCOMPARE(EventCategories::CategoryOf(type), EventCategory::Abnormal);
-    for (const int type : AlarmSchemeCommon::ACSNormalEvent())
+    for (const int type : normal)
         QCOMPARE(EventCategories::CategoryOf(type), EventCategory::Normal);
     QCOMPARE(EventCategories::CategoryOf(22), EventCategory::Alarm);
 }
@@ -65,7 +69,8 @@ void TestEventCategories::knownTypesAreListedOnce()
 
 void TestEventCategories::typesAreNamedByNumberOrName()
 {
-    for (const int32_t type : EventCategories::KnownTypes()) {
+    const QList<int32_t> types = EventCategories::KnownTypes();
+    for (const int32_t type : types) {
         const QString strName = QCommon::GetAlarmNameByType(type);
         QCOMPARE(EventCategories::TypeOf(QString::number(type)), std::optional<int32_t>(type));
         QCOMPARE(EventCategories::TypeOf(strName), std::optional<int32_t>(type));

@@ -1,5 +1,6 @@
 // The commands that only look: list, show, explain, who-switches and check.
 
+#include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/scheme_evaluation/EvaluationSite.h"
 #include "tests/tools/CommandKit.h"
 
@@ -82,7 +83,7 @@ QByteArray Fingerprint(const QString& strDirectory)
         paths += files.next();
     paths.sort();
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (const QString& strPath : paths) {
+    for (const QString& strPath : qAsConst(paths)) {
         QFile file(strPath);
         hash.addData(strPath.toUtf8());
         if (file.open(QIODevice::ReadOnly))
@@ -136,6 +137,7 @@ private Q_SLOTS:
     void lookingChangesNothing();
     void filesThatAreNoDatabaseAreAFailure_data();
     void filesThatAreNoDatabaseAreAFailure();
+    void aWriteThatWasCutOffStandsInTheWay();
     void aBrokenSiteFileIsAFailure();
     void aMissingSiteFileMattersOnlyWhenAskedFor();
     void wrongOptionsAreWrongUse_data();
@@ -716,6 +718,35 @@ void TestLookCommands::filesThatAreNoDatabaseAreAFailure()
     }
 }
 
+void TestLookCommands::aWriteThatWasCutOffStandsInTheWay()
+{
+    AlarmInfoMap many;
+    for (int door = 0; door < 400; ++door)
+        many.insert({Text("100$1$0$%1").arg(1000 + door), 101}, RichScheme());
+    Changed().Store(many);
+    const QTemporaryDir elsewhere;
+    const QString strCopy = elsewhere.filePath(Text("copy.db"));
+    {
+        // A program that is killed in the middle of a write leaves these two behind.
+        RawDatabase writer(m_data->Database());
+        QCOMPARE(writer.Run(Text("PRAGMA cache_size = 2; PRAGMA journal_mode = TRUNCATE; begin; "
+                                 "update AlarmBaseInfo set bOpen = 0; "
+                                 "update AlarmDefenceTimeInfo set Begin = 5, End = 6")),
+                 0);
+        QVERIFY(QFile::copy(m_data->Database(), strCopy));
+        QVERIFY(QFile::copy(m_data->Database() + Text("-journal"), strCopy + Text("-journal")));
+    }
+    const QByteArray before = Fingerprint(elsewhere.path());
+    for (const char* const line :
+         {"list", "check", "explain --source 100$1$0$1000 --event 101 --at 2026-11-23T08:30"}) {
+        const Run run(Words(line) + QStringList{Text("--database"), strCopy});
+        QCOMPARE(run.code, 3);
+        QVERIFY(run.out.isEmpty());
+        QVERIFY2(run.err.contains(Text("journal")), qPrintable(run.err));
+    }
+    QCOMPARE(Fingerprint(elsewhere.path()), before);
+}
+
 void TestLookCommands::aBrokenSiteFileIsAFailure()
 {
     Changed().Write("site.json", "{\"devices\":[{]}");
@@ -761,7 +792,6 @@ void TestLookCommands::textsOfADatabaseCannotReachTheTerminal()
     info.bOpen = true;
     info.listAlarmOut = {{Text("\x1b[2Jout"), true, 3}};
     Changed().Store({{{Text("\x1b]0;title\x07\nnew line\xe2\x80\xae"), 101}, info}});
-    const QString strSource = Text("\x1b]0;title\x07\nnew line\xe2\x80\xae");
     const Run listed = Look("list --event 101");
     QVERIFY(listed.out.contains(Text("\\u001b]0;title\\u0007\\u000anew line\\u202e")));
     for (const Run& run : {listed, Look("check"), Look("check --format json"), Look("list --format json")}) {
