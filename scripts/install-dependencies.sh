@@ -3,8 +3,8 @@
 # instructions, clang, qt6, package or fuzz.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libcurl4-openssl-dev rapidjson-dev
-    openssl python3-aiosmtpd fonts-dejavu-core fonts-noto-cjk xauth xvfb)
+packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libsqlite3-dev libcurl4-openssl-dev libcsv-dev rapidjson-dev
+    openssl python3-aiosmtpd fonts-dejavu-core fonts-noto-cjk tzdata xauth xvfb)
 case "${1:-build}" in
 build) ;;
 check) packages+=(clang clang-format clang-tidy clazy) ;;
