@@ -5,10 +5,12 @@
 #include "tools/DiffCommand.h"
 #include "tools/ExplainCommand.h"
 #include "tools/ExportCommand.h"
+#include "tools/HistoryCommand.h"
 #include "tools/ImportCommand.h"
 #include "tools/ListCommand.h"
 #include "tools/MakeSiteCommand.h"
 #include "tools/RestoreCommand.h"
+#include "tools/RevertCommand.h"
 #include "tools/ShowCommand.h"
 #include "tools/WhoSwitchesCommand.h"
 
@@ -26,6 +28,8 @@ CommandLine::CommandLine()
     m_commands.push_back(std::make_unique<ExportCommand>());
     m_commands.push_back(std::make_unique<ImportCommand>());
     m_commands.push_back(std::make_unique<DiffCommand>());
+    m_commands.push_back(std::make_unique<HistoryCommand>());
+    m_commands.push_back(std::make_unique<RevertCommand>());
     m_commands.push_back(std::make_unique<BackupCommand>());
     m_commands.push_back(std::make_unique<RestoreCommand>());
     m_commands.push_back(std::make_unique<MakeSiteCommand>());

@@ -69,11 +69,18 @@ QString DifferenceText::Field(const SchemeFieldDifference& field)
     QString name = ShownText(field.strField);
     if (field.strField.startsWith(DayField)) {
         // The locale counts Monday as 1 and Sunday as 7.
-        const int day = field.strField.midRef(DayField.size(), 1).toInt();
+        const int day = field.strField.mid(DayField.size(), 1).toInt();
         name = QLocale().standaloneDayName(day == 0 ? 7 : day);
     }
     return tr("%1: %2 -> %3", "field, before, after")
         .arg(name, Value(field.strField, field.before), Value(field.strField, field.after));
+}
+
+QString DifferenceText::Scheme(const AlarmSourceKey& key, const SiteIndex& site)
+{
+    return QStringLiteral("%1 [%2, %3]")
+        .arg(ShownText(SchemeText::Name(key, site)), ShownText(key.strEventSource),
+             QString::number(key.AlarmType));
 }
 
 QString DifferenceText::Lines(const SchemeDifference& difference, const SiteIndex& site)
@@ -81,18 +88,15 @@ QString DifferenceText::Lines(const SchemeDifference& difference, const SiteInde
     const auto heading = [&difference] {
         switch (difference.eKind) {
         case SchemeDifference::Kind::Added:
-            return tr("added    %1 [%2, %3]");
+            return tr("added    %1");
         case SchemeDifference::Kind::Removed:
-            return tr("removed  %1 [%2, %3]");
+            return tr("removed  %1");
         case SchemeDifference::Kind::Changed:
             break;
         }
-        return tr("changed  %1 [%2, %3]");
+        return tr("changed  %1");
     };
-    QString lines =
-        heading().arg(ShownText(SchemeText::Name(difference.key, site)),
-                      ShownText(difference.key.strEventSource), QString::number(difference.key.AlarmType)) +
-        QLatin1Char('\n');
+    QString lines = heading().arg(Scheme(difference.key, site)) + QLatin1Char('\n');
     for (const SchemeFieldDifference& field : difference.fields)
         lines += QLatin1String("  ") + Field(field) + QLatin1Char('\n');
     return lines;

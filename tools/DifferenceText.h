@@ -15,6 +15,8 @@ class DifferenceText
 public:
     DifferenceText() = delete;
 
+    /// "Lobby/Door 1, Door Forced Open [7$1$0$12, 101]".
+    static QString Scheme(const AlarmSourceKey& key, const SiteIndex& site);
     /// A line for the scheme and an indented one for each field, each with its end.
     static QString Lines(const SchemeDifference& difference, const SiteIndex& site);
     static QJsonObject Json(const SchemeDifference& difference, const SiteIndex& site);

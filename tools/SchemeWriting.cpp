@@ -1,12 +1,12 @@
 #include "tools/SchemeWriting.h"
 
-#include "client/store/StoredSchemes.h"
 #include "client/store/SystemUser.h"
 #include "platform/lxl/DPrintLog.h"
 #include "tools/ProgressLine.h"
 
 #include <QTextStream>
 
+#include <algorithm>
 #include <chrono>
 #include <future>
 
@@ -17,28 +17,43 @@ constexpr std::chrono::milliseconds LookInterval{50};
 
 } // namespace
 
-bool SchemeWriting::Import(const QString& strDatabase, const AlarmInfoMap& schemes, bool bOnly,
-                           const QString& strNote, CommandEnvironment& environment)
+SaveResult SchemeWriting::Write(const QString& strDatabase, const Work& work, CommandEnvironment& environment)
 {
     // The store's log is the client's; what matters of it is said here.
     lxl::DPrintLog::instance().SetStandardError(false);
     SaveProgress written;
     const auto write = [&] {
         StoredSchemes stored(BusyTimeOut, strDatabase);
+        return work(stored, written);
+    };
+    ProgressLine progress(environment, tr("Writing the schemes"));
+    std::future<SaveResult> task = std::async(std::launch::async, write);
+    while (task.wait_for(LookInterval) != std::future_status::ready)
+        progress.Show(written.iWritten, std::max<int>(written.iSchemes, 1));
+    return task.get();
+}
+
+bool SchemeWriting::Import(const QString& strDatabase, const AlarmInfoMap& schemes, bool bOnly,
+                           const QString& strNote, CommandEnvironment& environment)
+{
+    const auto import = [&](StoredSchemes& stored, SaveProgress& written) {
         const std::optional<QList<AlarmSourceKey>> others =
             bOnly ? std::nullopt : std::make_optional(QList<AlarmSourceKey>());
         return stored.Replace(schemes, others,
                               SaveOrigin{SystemUser::Name(), SchemeHistoryKind::Import, strNote}, written);
     };
-    SaveResult result;
-    {
-        ProgressLine progress(environment, tr("Writing the schemes"));
-        std::future<SaveResult> task = std::async(std::launch::async, write);
-        while (task.wait_for(LookInterval) != std::future_status::ready)
-            progress.Show(written.iWritten, written.iSchemes);
-        result = task.get();
-    }
-    return Tell(result, environment);
+    return Tell(Write(strDatabase, import, environment), environment);
+}
+
+std::optional<SaveResult> SchemeWriting::Revert(const QString& strDatabase, qint64 iStep,
+                                                const QString& strNote, CommandEnvironment& environment)
+{
+    const auto revert = [&](StoredSchemes& stored, SaveProgress& written) {
+        return stored.Revert(iStep, SaveOrigin{SystemUser::Name(), SchemeHistoryKind::Revert, strNote},
+                             written);
+    };
+    const SaveResult result = Write(strDatabase, revert, environment);
+    return Tell(result, environment) ? std::make_optional(result) : std::nullopt;
 }
 
 bool SchemeWriting::Tell(const SaveResult& result, CommandEnvironment& environment)

@@ -112,7 +112,7 @@ SchemeRestore::Failure SchemeRestore::Exchange(const QString& strCopy, bool bDam
 {
     if (bDamaged) {
         DamagedFile file(m_strDatabase);
-        const Failure failure = file.ReplaceBy(strCopy);
+        Failure failure = file.ReplaceBy(strCopy);
         m_strKeptAs = file.KeptAs();
         return failure;
     }
@@ -120,11 +120,11 @@ SchemeRestore::Failure SchemeRestore::Exchange(const QString& strCopy, bool bDam
     QString source = strCopy;
     if (WillGo(strCopy)) {
         source = QDir(folder.path()).absoluteFilePath(QStringLiteral("copy.db"));
-        if (const Failure failure = DatabaseCopy::Copy(strCopy, source, m_wait))
+        if (Failure failure = DatabaseCopy::Copy(strCopy, source, m_wait))
             return failure;
     }
     if (!bEmpty) {
-        if (const Failure failure = SchemeBackups(m_strDatabase).MakeUnlessSame(m_wait))
+        if (Failure failure = SchemeBackups(m_strDatabase).MakeUnlessSame(m_wait))
             return failure;
     }
     return DatabaseCopy::Copy(source, m_strDatabase, m_wait);

@@ -25,7 +25,7 @@ constexpr int32_t FormatVersion = 1;
 QString TextOf(const char* text, rapidjson::SizeType length, bool* pSound)
 {
     const int size = static_cast<int>(length);
-    const QString result = QString::fromUtf8(text, size);
+    QString result = QString::fromUtf8(text, size);
     // An escape may have named one half of a pair.
     *pSound = !result.contains(QChar(QChar::ReplacementCharacter)) ||
               result.toUtf8() == QByteArray::fromRawData(text, size);

@@ -182,7 +182,7 @@ void TestSchemeFiles::aFullDiskLeavesNoHalfFile()
     struct rlimit old = {};
     QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
     struct rlimit small = old;
-    small.rlim_cur = 200 * 1024;
+    small.rlim_cur = 200000;
     const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
     const SchemeFileProblems problems = SchemeFiles::WriteText(path, Doors(2000));

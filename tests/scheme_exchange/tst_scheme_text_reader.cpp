@@ -17,7 +17,7 @@ AlarmInfo Only(const AlarmInfoMap& map)
 QStringList Problems(const QByteArray& text)
 {
     AlarmInfoMap map{{AlarmSourceKey{QStringLiteral("old"), 1}, AlarmInfo()}};
-    const QStringList problems = SchemeTexts::Read(text, map);
+    QStringList problems = SchemeTexts::Read(text, map);
     if (!problems.isEmpty() && !map.isEmpty())
         return {QStringLiteral("a map in spite of problems")};
     return problems;
