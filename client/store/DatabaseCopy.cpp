@@ -41,10 +41,10 @@ std::optional<AlarmSchemeStatementFailure> DatabaseCopy::Copy(const QString& str
 {
     // Not for reading only: what a program that was cut off has left can be rolled back then.
     Database from;
-    if (const Failure failure = Open(strFrom, 0, wait, from))
+    if (Failure failure = Open(strFrom, 0, wait, from))
         return failure;
     Database to;
-    if (const Failure failure = Open(strTo, SQLITE_OPEN_CREATE, wait, to))
+    if (Failure failure = Open(strTo, SQLITE_OPEN_CREATE, wait, to))
         return failure;
     if (sqlite3_exec(to.get(), "PRAGMA synchronous = FULL", nullptr, nullptr, nullptr) != SQLITE_OK)
         return LastFailure(to.get());

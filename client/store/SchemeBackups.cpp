@@ -23,7 +23,7 @@ constexpr qint64 HighestNumber = 999'999'999'999;
 /// Other programs may take the number in the meantime.
 constexpr int AttemptsToName = 10;
 /// A copy that was cut off; nobody works on one for so long.
-constexpr qint64 SecondsOfCopying = 24 * 60 * 60;
+constexpr qint64 SecondsOfCopying = 24LL * 60 * 60;
 const QLatin1String CopySuffix(".copying");
 
 AlarmSchemeStatementFailure FileFailure(const QString& strMessage)
@@ -55,7 +55,7 @@ void BlankCounters(QByteArray& page)
 
 bool HoldTheSame(const QString& strA, const QString& strB)
 {
-    constexpr qint64 block = 64 * 1024;
+    constexpr qint64 block = 64LL * 1024;
     QFile a(strA);
     QFile b(strB);
     if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size())

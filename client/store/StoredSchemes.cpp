@@ -113,7 +113,7 @@ DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const Schem
     m_version.reset();
     m_asked.reset();
     m_history.Forget();
-    const DamageRepairResult result = DamageRepair(m_connection).Repair(eAnswer, damage);
+    DamageRepairResult result = DamageRepair(m_connection).Repair(eAnswer, damage);
     Open();
     return result;
 }

@@ -72,7 +72,8 @@ void DamagedFileTest::everyFileOfItGoesAlong()
         SchemeFiles::Write(Path(name), name);
     QVERIFY(!Damaged().SetAside());
     QCOMPARE(Names().size(), 5);
-    for (const QString& name : Names())
+    const QStringList names = Names();
+    for (const QString& name : names)
         QVERIFY(name == QLatin1String("backup.db") || name.startsWith(QLatin1String("AlarmScheme.damaged-")));
 }
 

@@ -143,10 +143,10 @@ void SchemeBackupsTest::aClockThatGoesBackTakesNoNewBackupForAnOldOne()
         SchemeFiles::Make(m_strFile, 3 + more);
         QVERIFY(Make());
         // Neither removed at once as the oldest, nor taken for older than what it comes after.
-        QCOMPARE(FileHealth::Inspect(Backups().List().first().strPath).iSchemes, 3 + more);
+        QCOMPARE(FileHealth::Inspect(Backups().List().constFirst().strPath).iSchemes, 3 + more);
         QCOMPARE(Backups().NewestSound()->iSchemes, 3 + more);
     }
-    QCOMPARE(Backups().List().last().time, Noon(17));
+    QCOMPARE(Backups().List().constLast().time, Noon(17));
     QVERIFY(!Backups().IsDue());
 }
 
@@ -159,7 +159,7 @@ void SchemeBackupsTest::anUnchangedFileIsNotBackedUpTwiceWhenThatIsAskedFor()
     QVERIFY(!Backups().MakeUnlessSame(NoWait));
     QCOMPARE(Names().size(), 2);
     // One that has been spoilt meanwhile holds something else.
-    SchemeFiles::DamageTable(Backups().List().first().strPath);
+    SchemeFiles::DamageTable(Backups().List().constFirst().strPath);
     QVERIFY(!Backups().MakeUnlessSame(NoWait));
     QCOMPARE(Names().size(), 3);
 }
@@ -290,7 +290,7 @@ void SchemeBackupsTest::aCopyOfAFileWithAWriteAheadLogNeedsNone()
     QCOMPARE(other.Run(QStringLiteral("delete from AlarmUniqueID where AlarmUniqueID = 1")), 0);
     QVERIFY(Make());
     QCOMPARE(Backups().NewestSound()->iSchemes, 2);
-    const QString backup = Backups().List().first().strPath;
+    const QString backup = Backups().List().constFirst().strPath;
     QCOMPARE(RawDatabase(backup).Value(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("delete"));
     QCOMPARE(Names().size(), 1);
 }
@@ -320,7 +320,7 @@ void SchemeBackupsTest::withoutASoundOneNothingIsFound()
     QVERIFY(!Backups().NewestSound());
     QVERIFY(Make());
     // A database, and a sound one, but of something else.
-    const QString path = Backups().List().first().strPath;
+    const QString path = Backups().List().constFirst().strPath;
     QVERIFY(QFile::remove(path));
     RawDatabase(path).Run(QStringLiteral("create table Other(a)"));
     QVERIFY(!Backups().NewestSound());
@@ -331,7 +331,7 @@ void SchemeBackupsTest::withoutASoundOneNothingIsFound()
 void SchemeBackupsTest::lookingAtABackupLeavesNoTrace()
 {
     QVERIFY(Make());
-    const QString path = Backups().List().first().strPath;
+    const QString path = Backups().List().constFirst().strPath;
     // Somebody has worked on it and left a write-ahead log to it, which a look must not begin to use.
     QCOMPARE(RawDatabase(path).Value(QStringLiteral("PRAGMA journal_mode = WAL")), QStringLiteral("wal"));
     const QByteArray before = SchemeFiles::Bytes(path);

@@ -361,7 +361,7 @@ void StoreConnectionTest::aBackupTakesNoLockAway()
     QCOMPARE(writing.Run(QStringLiteral("begin immediate; delete from AlarmUniqueID")), 0);
     QVERIFY(!Backups().MakeUnlessSame(std::chrono::milliseconds(0)));
     QVERIFY(!Backups().Make(std::chrono::milliseconds(0)));
-    QVERIFY(!FileHealth::Inspect(Backups().List().first().strPath).failure);
+    QVERIFY(!FileHealth::Inspect(Backups().List().constFirst().strPath).failure);
     // Another process, which is what the locks are for.
     QProcess other;
     other.start(QCoreApplication::applicationFilePath(),
