@@ -17,5 +17,6 @@ endfunction()
 
 # Everything that a fuzzer reaches tells it which way an input went.
 if(ACS_FUZZERS)
+    add_custom_target(fuzzers)
     target_compile_options(acs_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
