@@ -17,6 +17,7 @@ AlarmInfo Scheme(int iDay, const AlarmDefenceTime_t& regions)
 constexpr int s_sunday = 0;
 constexpr int s_monday = 1;
 constexpr int s_hour = 3600;
+constexpr qint64 s_threeHours = 3 * 3600;
 
 QTimeZone Berlin()
 {
@@ -340,8 +341,8 @@ void TestSchemeMoment::everySecondAroundAChangeOfTheClockIsAsCountedOneByOne()
         const qint64 last = change + 10 * day;
         const ZoneOracle oracle(info.defenceTime, timeZone, first, last);
         // The change of the clock lies in the middle of these hours.
-        const qint64 begin = change - 3 * s_hour;
-        const qint64 end = change + 3 * s_hour;
+        const qint64 begin = change - s_threeHours;
+        const qint64 end = change + s_threeHours;
         qint64 since = begin;
         while (oracle.IsArmed(since - 1) == oracle.IsArmed(begin))
             --since;
