@@ -25,7 +25,7 @@ bool ReadFile(const QString& strFile, const QString& strWhat, AlarmInfoMap& map,
                 progress.Show();
         });
     }
-    for (const SchemeFileProblem& problem : problems)
+    for (const SchemeFileProblem& problem : qAsConst(problems))
         environment.err << problem.Text() << '\n';
     return problems.isEmpty();
 }

@@ -69,7 +69,7 @@ QString DifferenceText::Field(const SchemeFieldDifference& field)
     QString name = ShownText(field.strField);
     if (field.strField.startsWith(DayField)) {
         // The locale counts Monday as 1 and Sunday as 7.
-        const int day = field.strField.mid(DayField.size(), 1).toInt();
+        const int day = field.strField.at(DayField.size()).digitValue();
         name = QLocale().standaloneDayName(day == 0 ? 7 : day);
     }
     return tr("%1: %2 -> %3", "field, before, after")

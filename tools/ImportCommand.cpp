@@ -148,12 +148,12 @@ bool ImportCommand::ReadText(const QString& strFile, bool bJson, AlarmInfoMap& m
         return true;
     if (bJson) {
         JsonList list(environment.out, FormatName, QStringLiteral("problems"));
-        for (const SchemeFileProblem& problem : problems) {
+        for (const SchemeFileProblem& problem : qAsConst(problems)) {
             list.Add(
                 {{QStringLiteral("line"), problem.iLine}, {QStringLiteral("reason"), problem.strReason}});
         }
     }
-    for (const SchemeFileProblem& problem : problems)
+    for (const SchemeFileProblem& problem : qAsConst(problems))
         environment.err << problem.Text() << '\n';
     environment.err << tr("Nothing was changed.") << '\n';
     return false;

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -169,10 +170,11 @@ void CompareSplits(FieldComparer& comparer, const AlarmVideoSplit& before, const
     }
     if (before.videoLinks == after.videoLinks)
         return;
-    QList<int32_t> windows = before.videoLinks.keys() + after.videoLinks.keys();
+    std::vector<int32_t> windows(before.videoLinks.keyBegin(), before.videoLinks.keyEnd());
+    windows.insert(windows.end(), after.videoLinks.keyBegin(), after.videoLinks.keyEnd());
     std::sort(windows.begin(), windows.end());
     windows.erase(std::unique(windows.begin(), windows.end()), windows.end());
-    for (const int32_t window : qAsConst(windows)) {
+    for (const int32_t window : windows) {
         const auto was = before.videoLinks.constFind(window);
         const auto is = after.videoLinks.constFind(window);
         const QJsonObject old = was != before.videoLinks.cend() ? ToJson(*was) : QJsonObject();
