@@ -17,7 +17,7 @@ AlarmInfo Scheme(int iDay, const AlarmDefenceTime_t& regions)
 constexpr int s_sunday = 0;
 constexpr int s_monday = 1;
 constexpr int s_hour = 3600;
-constexpr qint64 s_threeHours = 3 * 3600;
+constexpr qint64 s_threeHours = 10800;
 
 QTimeZone Berlin()
 {
