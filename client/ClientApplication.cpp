@@ -12,6 +12,7 @@
 #include "client/SchemeSaving.h"
 #include "client/SessionEnd.h"
 #include "client/SiteSession.h"
+#include "client/SiteTransfer.h"
 #include "client/UnsavedWork.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
 #include "client/store/SystemUser.h"
@@ -102,6 +103,7 @@ void ClientApplication::Stop()
                    qUtf8Printable(m_settings->FileName()));
     }
     m_insight.reset();
+    m_siteTransfer.reset();
     AlarmSchemeManager::Instance()->SetBackend(nullptr);
     m_saving.reset();
     m_drafts.reset();
@@ -204,6 +206,9 @@ void ClientApplication::OpenSite()
     connect(m_site.get(), &SiteSession::SignalDevicesChanged, m_window.get(), showSite);
     connect(m_site.get(), &SiteSession::SignalWriteFailed, m_window.get(), &MainWindow::AddProblem);
     showSite();
+    m_siteTransfer = std::make_unique<SiteTransfer>(*m_site, m_window.get());
+    connect(m_window.get(), &MainWindow::SignalImportSite, m_siteTransfer.get(), &SiteTransfer::Import);
+    connect(m_window.get(), &MainWindow::SignalExportSite, m_siteTransfer.get(), &SiteTransfer::Export);
     m_hub.SetDeviceManager(&m_site->Devices());
     m_hub.SetTreeExpansion(m_expansion.get());
     m_hub.SetMainWindow(m_window.get());

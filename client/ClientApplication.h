@@ -20,6 +20,7 @@ class MainWindow;
 class SchemeSaving;
 class SessionEnd;
 class SiteSession;
+class SiteTransfer;
 
 /// The client from its start to its end: owns everything, brings it up in order and takes it down in the
 /// opposite order. Needs a QApplication; sets process-wide things (working directory, style, data directory,
@@ -73,6 +74,7 @@ private:
     std::unique_ptr<ClientSettings> m_settings;
     std::unique_ptr<ClientTranslations> m_translations;
     std::unique_ptr<SiteSession> m_site;
+    std::unique_ptr<SiteTransfer> m_siteTransfer;
     std::unique_ptr<TreeExpansion> m_expansion;
     HubManager m_hub;
     DeviceFunctionManager m_deviceFunctions;

@@ -105,11 +105,14 @@ void MainWindow::BuildMenus()
     connect(ui->actionCloseTab, &QAction::triggered, this,
             [this] { ClosePage(ui->tabPages->currentIndex()); });
     connect(ui->actionQuit, &QAction::triggered, this, &QWidget::close);
+    connect(ui->actionImportSite, &QAction::triggered, this, &MainWindow::SignalImportSite);
+    connect(ui->actionExportSite, &QAction::triggered, this, &MainWindow::SignalExportSite);
     connect(ui->actionMail, &QAction::triggered, this, &MainWindow::OpenMailSettings);
     connect(ui->actionAbout, &QAction::triggered, this, &MainWindow::OnAbout);
     connect(ui->actionDataDirectory, &QAction::triggered, this, &MainWindow::OnDataDirectory);
     m_pEditActions = new EditActions({ui->actionUndo, ui->actionRedo, ui->actionFind}, this);
     connect(ui->menuEdit, &QMenu::aboutToShow, m_pEditActions, &EditActions::OnChanged);
+    ui->actionImportSite->setEnabled(QCommon::CheckMenuRight(QCommon::RightSystemConfig));
     ui->actionMail->setEnabled(QCommon::CheckMenuRight(QCommon::RightSystemConfig));
 
     const QActionGroup* pLanguages =

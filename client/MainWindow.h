@@ -67,6 +67,8 @@ public:
     QString StatusText() const;
 
 Q_SIGNALS:
+    void SignalImportSite();
+    void SignalExportSite();
     void SignalClosing(); ///< the window is about to close; its pages still stand
 
 protected:

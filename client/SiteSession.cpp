@@ -3,6 +3,7 @@
 #include "client/ClientLog.h"
 #include "client/SampleSite.h"
 #include "platform/SiteLibrary/SiteFile.h"
+#include "scheme_services/site/SiteImport.h"
 
 #include <QDir>
 #include <QFile>
@@ -55,6 +56,27 @@ SiteSession::Outcome SiteSession::Open(const QString& strFile, bool bWriteSample
     return m_outcome;
 }
 
+bool SiteSession::Replace(const Site& site, QString& strBackup, QString& strReason)
+{
+    QByteArray expected = m_lastBytes;
+    if (m_outcome == Outcome::Broken) {
+        // A file that could not be used is replaced too; what it holds goes into the backup like any other.
+        expected.clear();
+        ReadBytes(expected);
+    }
+    if (!SiteImport::ReplaceSiteFile(m_strFile, site, expected, strBackup, strReason)) {
+        return false;
+    }
+    ReadBytes(m_lastBytes);
+    m_outcome = Outcome::Loaded;
+    m_strError.clear();
+    m_bReplacing = true;
+    m_devices.ApplySite(site);
+    m_bReplacing = false;
+    Q_EMIT SignalDevicesChanged();
+    return true;
+}
+
 void SiteSession::StopFollowing()
 {
     if (m_bFollowing) {
@@ -65,11 +87,17 @@ void SiteSession::StopFollowing()
 
 void SiteSession::OnDeviceAdded(int64_t /*iDeviceId*/)
 {
+    if (m_bReplacing) {
+        return;
+    }
     Q_EMIT SignalDevicesChanged();
 }
 
 void SiteSession::OnDeviceRemoved(int64_t /*iDeviceId*/)
 {
+    if (m_bReplacing) {
+        return;
+    }
     WriteBack();
     Q_EMIT SignalDevicesChanged();
 }

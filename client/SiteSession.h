@@ -28,6 +28,10 @@ public:
 
     /// Opens the file. When it does not exist and `bWriteSample` is set, the sample site is written to it.
     Outcome Open(const QString& strFile, bool bWriteSample);
+    /// Puts another site into the file and then, as a difference by id, into the devices; what the file held
+    /// is kept beside it, `strBackup` says where. False with the reason, and nothing changed, when the file
+    /// cannot be written or was changed by somebody else since this session read it.
+    bool Replace(const Site& site, QString& strBackup, QString& strReason);
     /// From here on changes are no longer followed; called before everything is taken down.
     void StopFollowing();
 
@@ -56,4 +60,5 @@ private:
     QString m_strError;
     QByteArray m_lastBytes; ///< the file as this session last read or wrote it
     bool m_bFollowing = false;
+    bool m_bReplacing = false; ///< the file has been written already; told once, at the end
 };

@@ -6,7 +6,9 @@
 #include "tools/ExplainCommand.h"
 #include "tools/ExportCommand.h"
 #include "tools/HistoryCommand.h"
+#include "tools/ExportSiteCommand.h"
 #include "tools/ImportCommand.h"
+#include "tools/ImportSiteCommand.h"
 #include "tools/ListCommand.h"
 #include "tools/MakeSiteCommand.h"
 #include "tools/RestoreCommand.h"
@@ -33,6 +35,8 @@ CommandLine::CommandLine()
     m_commands.push_back(std::make_unique<BackupCommand>());
     m_commands.push_back(std::make_unique<RestoreCommand>());
     m_commands.push_back(std::make_unique<MakeSiteCommand>());
+    m_commands.push_back(std::make_unique<ImportSiteCommand>());
+    m_commands.push_back(std::make_unique<ExportSiteCommand>());
 }
 
 CommandLine::~CommandLine() = default;

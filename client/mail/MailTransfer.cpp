@@ -226,9 +226,7 @@ bool MailTransfer::Private::MakeAddresses(MailOutcome& outcome)
     };
     sender = wire(job.message.strSender);
     for (const QString& strRecipient : job.message.recipients) {
-        curl_slist* pLonger = curl_slist_append(recipients.get(), wire(strRecipient).constData());
-        recipients.release();
-        recipients.reset(pLonger);
+        recipients.reset(curl_slist_append(recipients.release(), wire(strRecipient).constData()));
     }
     if (job.message.recipients.isEmpty()) {
         outcome.eKind = MailOutcome::Kind::BadAddress;

@@ -21,11 +21,11 @@ constexpr int MaxNameLength = 255; ///< in UTF-16 units, so that no name breaks 
 constexpr int MaxGroupDepth = 32;  ///< groups within groups, so that walking down a tree stays harmless
 
 /// Why a name cannot be used, translated; empty when it can.
-QString NameProblem(const QString& strName);
+SITELIBRARY_EXPORT QString NameProblem(const QString& strName);
 /// Whether name, type, kinds, numbers and ids of a device are sound in themselves.
 bool IsSound(const VantaLogic::DeviceInfo& device);
 /// A channel's place on its device: kind and number in one value.
-quint64 ChannelPlace(int32_t iType, int32_t iNumber);
+SITELIBRARY_EXPORT quint64 ChannelPlace(int32_t iType, int32_t iNumber);
 
 struct GroupProblem
 {
@@ -34,6 +34,6 @@ struct GroupProblem
 };
 
 /// The first group whose parent does not exist, that lies inside itself or lies too deep.
-GroupProblem FirstGroupProblem(const QVector<VantaLogic::GroupInfo>& groups);
+SITELIBRARY_EXPORT GroupProblem FirstGroupProblem(const QVector<VantaLogic::GroupInfo>& groups);
 
 } // namespace SiteRules
