@@ -28,6 +28,8 @@ QAlarmCopyToPopup::QAlarmCopyToPopup(int iMode, QWidget* parent)
 
     connect(m_pPicker->Tree(), &VantaComponent::GroupTreeCtrl::SignalChecked, this,
             &QAlarmCopyToPopup::OnGroupTreeChkChanged);
+    // A device that goes takes its targets along.
+    connect(pModel, &VantaModel::GroupTreeModel::TreeUpdated, this, &QAlarmCopyToPopup::ShowTargets);
     connect(this, &LXCustomDialog::SignalOkButtonClicked, this, &QAlarmCopyToPopup::OnOk);
     connect(this, &LXCustomDialog::SignalCancelButtonClicked, this, &QAlarmCopyToPopup::OnCancel);
     PopupPlacement::PlaceAboveParent(*this);
@@ -38,21 +40,31 @@ QAlarmCopyToPopup::~QAlarmCopyToPopup() = default;
 void QAlarmCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool bChecked)
 {
     m_pTicked->Apply(m_pPicker->FollowCheck(index, bChecked));
+    ShowTargets();
+}
+
+QList<QString> QAlarmCopyToPopup::TickedKeys() const
+{
+    const CopyMode* const pMode = CopyMode::Find(AlarmCopyModes(), m_iMode);
+    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    return pMode != nullptr && pManager != nullptr ? pMode->SourceKeys(m_pTicked->Nodes(), *pManager)
+                                                   : QList<QString>();
+}
+
+void QAlarmCopyToPopup::ShowTargets()
+{
+    const int iTargets = TickedKeys().size();
+    SetTitle(iTargets == 0 ? tr("Copy to") : tr("Copy to %n Target(s)", nullptr, iTargets));
 }
 
 void QAlarmCopyToPopup::OnOk()
 {
     const QPointer<QAlarmCopyToPopup> guard(this); // whoever is told may close the page and this with it
-    const CopyMode* const pMode = CopyMode::Find(AlarmCopyModes(), m_iMode);
-    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
-    if (pMode != nullptr && pManager != nullptr) {
-        const QList<QString> listKeys = pMode->SourceKeys(m_pTicked->Nodes(), *pManager);
-        if (!listKeys.isEmpty())
-            Q_EMIT SignalCopyTo(listKeys);
-    }
-    if (guard) {
+    const QList<QString> listKeys = TickedKeys();
+    if (!listKeys.isEmpty())
+        Q_EMIT SignalCopyTo(listKeys);
+    if (guard)
         accept();
-    }
 }
 
 void QAlarmCopyToPopup::OnCancel()

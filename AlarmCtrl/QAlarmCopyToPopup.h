@@ -39,6 +39,9 @@ private Q_SLOTS:
     void OnGroupTreeChkChanged(const QModelIndex& index, bool bChecked);
 
 private:
+    QList<QString> TickedKeys() const;
+    void ShowTargets(); ///< in the title: how many there are
+
     std::unique_ptr<Ui::QAlarmCopyToPopup> m_ui;
     int m_iMode;
     DeviceTreePicker* m_pPicker;

@@ -1,6 +1,7 @@
 #include "AlarmCtrl/QAlarmListItemView.h"
 
 #include "AlarmCtrl/QAlarmListItem.h"
+#include "AlarmCtrl/QAlarmListItemViewAccessible.h"
 #include "ui_QAlarmListItemView.h"
 
 #include <QButtonGroup>
@@ -29,6 +30,7 @@ QAlarmListItemView::QAlarmListItemView(QWidget* parent)
     , m_pGroup(new QButtonGroup(this))
 {
     m_ui->setupUi(this);
+    QAlarmListItemViewAccessible::Install();
     m_pMainLayout = MakeEntryLayout(m_ui->wndMain, 10, 0);
     m_pSubLayout = MakeEntryLayout(m_ui->wndSub, 0, 10);
     m_ui->wndSubContainer->hide();
@@ -61,6 +63,12 @@ int QAlarmListItemView::GetCurrentType() const
 {
     const auto* const pItem = qobject_cast<QAlarmListItem*>(m_pGroup->checkedButton());
     return pItem != nullptr ? pItem->GetType() : -1;
+}
+
+QString QAlarmListItemView::GetCurrentText() const
+{
+    const QAbstractButton* const pCurrent = m_pGroup->checkedButton();
+    return pCurrent != nullptr ? pCurrent->text() : QString();
 }
 
 bool QAlarmListItemView::GoToType(int iType)

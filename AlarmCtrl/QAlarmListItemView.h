@@ -32,6 +32,7 @@ public:
     void AddItem(const QString& strText, int iType);
     void AddSubItem(const QString& strText, int iType);
     int GetCurrentType() const; ///< -1 when no entry is checked
+    QString GetCurrentText() const;
     /// Goes to the first entry of this type as a click on it does; false when there is none to be seen.
     bool GoToType(int iType);
     /// Hides the first entry of this type; when it is current, the first entry of all becomes current.

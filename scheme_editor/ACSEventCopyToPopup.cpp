@@ -6,6 +6,7 @@
 #include "platform/VantaModel/ACSGroupTreeModel.h"
 #include "plugin/host_services/HostServices.h"
 #include "scheme_editor/ACSCopyModes.h"
+#include "scheme_editor/SchemeCopy.h"
 #include "ui_ACSEventCopyToPopup.h"
 
 #include <QPointer>
@@ -31,6 +32,8 @@ ACSEventCopyToPopup::ACSEventCopyToPopup(int iMode, QWidget* parent)
 
     connect(m_pPicker->Tree(), &VantaComponent::GroupTreeCtrl::SignalChecked, this,
             &ACSEventCopyToPopup::OnGroupTreeChkChanged);
+    // A device that goes takes its targets along.
+    connect(pModel, &VantaModel::GroupTreeModel::TreeUpdated, this, &ACSEventCopyToPopup::ShowTargets);
     connect(this, &LXCustomDialog::SignalOkButtonClicked, this, &ACSEventCopyToPopup::OnOk);
     connect(this, &LXCustomDialog::SignalCancelButtonClicked, this, &ACSEventCopyToPopup::OnCancel);
     PopupPlacement::PlaceAboveParent(*this);
@@ -41,21 +44,41 @@ ACSEventCopyToPopup::~ACSEventCopyToPopup() = default;
 void ACSEventCopyToPopup::OnGroupTreeChkChanged(const QModelIndex& index, bool bChecked)
 {
     m_pTicked->Apply(m_pPicker->FollowCheck(index, bChecked));
+    ShowTargets();
+}
+
+void ACSEventCopyToPopup::SetSource(const QString& strSource)
+{
+    m_strSource = strSource;
+    ShowTargets();
+}
+
+QList<QString> ACSEventCopyToPopup::TickedKeys() const
+{
+    const CopyMode* const pMode = CopyMode::Find(ACSCopy::Modes(), m_iMode);
+    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
+    return pMode != nullptr && pManager != nullptr ? pMode->SourceKeys(m_pTicked->Nodes(), *pManager)
+                                                   : QList<QString>();
+}
+
+void ACSEventCopyToPopup::ShowTargets()
+{
+    const int iTargets = SchemeCopy::Targets(m_strSource, TickedKeys()).size();
+    if (iTargets == 0)
+        SetTitle(tr("Copy to"));
+    else
+        SetTitle(m_iMode == ACSCopy::Door ? tr("Copy to %n Door(s)", nullptr, iTargets)
+                                          : tr("Copy to %n Alarm Input(s)", nullptr, iTargets));
 }
 
 void ACSEventCopyToPopup::OnOk()
 {
     const QPointer<ACSEventCopyToPopup> guard(this); // whoever is told may close the page and this with it
-    const CopyMode* const pMode = CopyMode::Find(ACSCopy::Modes(), m_iMode);
-    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
-    if (pMode != nullptr && pManager != nullptr) {
-        const QList<QString> listKeys = pMode->SourceKeys(m_pTicked->Nodes(), *pManager);
-        if (!listKeys.isEmpty())
-            Q_EMIT SignalCopyTo(listKeys);
-    }
-    if (guard) {
+    const QList<QString> listKeys = TickedKeys();
+    if (!listKeys.isEmpty())
+        Q_EMIT SignalCopyTo(listKeys);
+    if (guard)
         accept();
-    }
 }
 
 void ACSEventCopyToPopup::OnCancel()

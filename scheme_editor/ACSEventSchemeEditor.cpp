@@ -1,5 +1,6 @@
 #include "scheme_editor/ACSEventSchemeEditor.h"
 
+#include "AlarmCtrl/PanelHint.h"
 #include "AlarmCtrl/QAlarmListItemView.h"
 #include "AlarmCtrl/QAlarmOutEditor.h"
 #include "platform/LXGUI/LXPushButton.h"
@@ -26,23 +27,14 @@
 #include "scheme_editor/SchemeCopy.h"
 #include "scheme_editor/SchemeForm.h"
 #include "scheme_editor/TabLayout.h"
-#include "scheme_editor/edits/SchemeDraft.h"
 #include "ui_ACSEventSchemeEditor.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QStandardItem>
 
 #include <algorithm>
 #include <utility>
-
-/// One settings tab: its button and the sub-editor behind it.
-struct ACSEventSchemeEditor::SettingsTab
-{
-    QPushButton* pButton;
-    QWidget* pEditor;
-};
 
 ACSEventSchemeEditor::ACSEventSchemeEditor(QWidget* parent)
     : QFrame(parent)
@@ -55,6 +47,7 @@ ACSEventSchemeEditor::ACSEventSchemeEditor(QWidget* parent)
          {m_ui->btnAbnormal, m_ui->listAbnormal, &AlarmSchemeCommon::ACSAbnormalEvent},
          {m_ui->btnNormal, m_ui->listNormal, &AlarmSchemeCommon::ACSNormalEvent}}});
     setObjectName(QStringLiteral("ACSEventSchemeEditor"));
+    m_pHint = new PanelHint(m_ui->wndSetingsHeader, 0);
     UICommonMdl::CommonFun::SetStyleSheet(this, QStringLiteral("ACSEventConfigUI"), QString(), QString());
 }
 
@@ -128,33 +121,6 @@ QString ACSEventSchemeEditor::GetEditedScheme() const
     return m_strEditedScheme;
 }
 
-int ACSEventSchemeEditor::GetEnabledSchemes() const
-{
-    return m_book->EnabledCount();
-}
-
-QString ACSEventSchemeEditor::GetUndoText() const
-{
-    const SchemeStep* const pStep = m_book->History().NextUndo();
-    return pStep != nullptr ? pStep->strText : QString();
-}
-
-QString ACSEventSchemeEditor::GetRedoText() const
-{
-    const SchemeStep* const pStep = m_book->History().NextRedo();
-    return pStep != nullptr ? pStep->strText : QString();
-}
-
-bool ACSEventSchemeEditor::CanUndo() const
-{
-    return m_book->History().NextUndo() != nullptr;
-}
-
-bool ACSEventSchemeEditor::CanRedo() const
-{
-    return m_book->History().NextRedo() != nullptr;
-}
-
 void ACSEventSchemeEditor::BuildDeviceTree()
 {
     VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
@@ -180,17 +146,6 @@ void ACSEventSchemeEditor::BuildDeviceTree()
             &ACSEventSchemeEditor::OnGroupTreeFocusChanged);
     connect(m_pTree, &VantaComponent::GroupTreeCtrl::SignalRemoveDevice, this,
             &ACSEventSchemeEditor::OnRemoveDevice);
-}
-
-void ACSEventSchemeEditor::BuildHistory()
-{
-    connect(m_book.get(), &SchemeBook::SignalModifiedChanged, this, &ACSEventSchemeEditor::ShowModified);
-    connect(m_book.get(), &SchemeBook::SignalEnabledChanged, this,
-            &ACSEventSchemeEditor::SignalEnabledSchemesChanged);
-    connect(&m_book->History(), &SchemeHistory::SignalChanged, this,
-            &ACSEventSchemeEditor::SignalUndoChanged);
-    m_observer = std::make_unique<EditObserver>(*this, [this](bool bInDialog) { StoreEditors(bInDialog); });
-    m_book->MarkLoaded();
 }
 
 void ACSEventSchemeEditor::OnGroupTreeFocusChanged()
@@ -351,25 +306,6 @@ void ACSEventSchemeEditor::ShowScheme(const AlarmInfo& info)
     m_form->Show(info);
 }
 
-// What the form holds against what it held: the difference is a person's edit.
-void ACSEventSchemeEditor::StoreEditors(bool bInDialog)
-{
-    const std::optional<AlarmSourceKey> key = m_selection.CurrentKey();
-    if (!key)
-        return;
-    AlarmInfo& entry = m_book->Schemes()[*key];
-    m_form->Store(entry);
-    if (!m_held || m_held->key != *key || m_held->info == entry)
-        return;
-    const AlarmInfo before = std::exchange(m_held->info, entry);
-    SchemeStep step;
-    step.place = m_selection;
-    step.iEditor = SchemeForm::EditorOf(before, entry);
-    step.iTyping = m_observer->Typing();
-    m_book->RecordEdit(*key, before, step,
-                       bInDialog ? SchemeActionText::Way::InDialog : SchemeActionText::Way::OnPage);
-}
-
 void ACSEventSchemeEditor::OnOpenStatusChanged(bool bOpen)
 {
     Q_UNUSED(bOpen)
@@ -407,6 +343,7 @@ void ACSEventSchemeEditor::UpdateSettingsEnabled()
     const std::optional<AlarmSourceKey> key = m_selection.CurrentKey();
     if (!key)
         m_ui->wndSettings->setEnabled(false);
+    m_pHint->SetHint(HintText());
 
     QString strText = tr("No event selected");
     if (key) {
@@ -419,6 +356,20 @@ void ACSEventSchemeEditor::UpdateSettingsEnabled()
         m_strEditedScheme = strText;
         Q_EMIT SignalEditedSchemeChanged(strText);
     }
+}
+
+// What to do when there is no scheme to edit; nothing when there is one.
+QString ACSEventSchemeEditor::HintText() const
+{
+    if (m_selection.CurrentKey())
+        return {};
+    if (m_selection.strSource.isEmpty())
+        return tr("Select a door or a device on the left to edit its alarm schemes.");
+    if (!m_selection.bExternal)
+        return tr("Select an event to edit its alarm scheme.");
+    return m_ui->treeAlarmIn->topLevelItemCount() == 0
+               ? tr("This device has no alarm inputs.")
+               : tr("Select an alarm input to edit its alarm scheme.");
 }
 
 void ACSEventSchemeEditor::OnSave()
@@ -443,6 +394,7 @@ void ACSEventSchemeEditor::OnCopyTo()
     }
     StoreEditors();
     auto* const pPopup = new ACSEventCopyToPopup(iMode, m_ui->btnCopyTo);
+    pPopup->SetSource(iMode == ACSCopy::Door ? m_selection.strSource : m_selection.strAlarmInput);
     connect(pPopup, &ACSEventCopyToPopup::SignalCopyTo, this, &ACSEventSchemeEditor::OnCopyToImp);
     pPopup->setModal(true);
     pPopup->show();
@@ -480,118 +432,6 @@ void ACSEventSchemeEditor::OnRemoveDevice(int64_t iDevUniqueId)
         AlarmInputTree::Clear(*m_ui->treeAlarmIn);
         ShowScheme(AlarmInfo());
         UpdateSettingsEnabled();
-    }
-}
-
-bool ACSEventSchemeEditor::MayUndo()
-{
-    if (!m_observer || m_observer->IsBusy())
-        return false;
-    StoreEditors(); // what was not looked at yet is a step of its own
-    return true;
-}
-
-void ACSEventSchemeEditor::Undo()
-{
-    if (!MayUndo() || !CanUndo())
-        return;
-    GoTo(*m_book->History().NextUndo());
-    m_book->History().Undo();
-    LoadCurrentScheme();
-}
-
-void ACSEventSchemeEditor::Redo()
-{
-    if (!MayUndo() || !CanRedo())
-        return;
-    GoTo(*m_book->History().NextRedo());
-    m_book->History().Redo();
-    LoadCurrentScheme();
-}
-
-// By the ways that a person takes, so that all of the page follows.
-void ACSEventSchemeEditor::GoTo(const SchemeStep& step)
-{
-    const SchemeSelection place = step.place;
-    const int iEditor = step.iEditor;
-    const std::optional<EventSource::Fields> source = EventSource::Split(place.strSource);
-    if (!source || m_pTree.isNull())
-        return;
-    const bool bDevice = place.bExternal;
-    const int64_t iNode = bDevice ? source->iOwner : source->iChannel;
-    const int32_t iKind = bDevice ? VantaModel::NodeKindDevice : VantaModel::NodeKindChannel;
-    if (!m_pTree->SelectNode(iNode, iKind)) {
-        m_pTree->ClearSearch();
-        if (!m_pTree->SelectNode(iNode, iKind))
-            return;
-    }
-    OnGroupTreeFocusChanged();
-    if (bDevice)
-        AlarmInputTree::GoTo(*m_ui->treeAlarmIn, place.strAlarmInput);
-    else
-        m_categories->GoTo(place.iAlarmType);
-    if (iEditor >= 0)
-        SettingsTabs().at(static_cast<std::size_t>(iEditor)).pButton->click();
-}
-
-void ACSEventSchemeEditor::MarkUnsaved()
-{
-    m_book->MarkUnsaved();
-}
-
-QByteArray ACSEventSchemeEditor::Draft()
-{
-    if (m_observer && !m_observer->IsBusy())
-        StoreEditors();
-    return m_book->Draft();
-}
-
-int ACSEventSchemeEditor::RestoreDraft(const QByteArray& draft)
-{
-    if (!MayUndo())
-        return -1;
-    const VantaLogic::IDeviceManager* const pManager = HostServices::DeviceManager();
-    const std::optional<int> restored =
-        m_book->RestoreDraft(draft, m_selection, [pManager](const QString& strSource) {
-            const std::optional<int64_t> device = EventSource::FirstField(strSource);
-            VantaLogic::DeviceInfo info;
-            return device && pManager != nullptr && pManager->GetDevice(*device, info) == 0;
-        });
-    if (restored)
-        LoadCurrentScheme();
-    return restored.value_or(-1);
-}
-
-int ACSEventSchemeEditor::DraftSchemes(const QByteArray& draft)
-{
-    const std::optional<SchemeDraft> content = SchemeDraft::Read(draft);
-    if (!content)
-        return -1;
-    int iSchemes = 0;
-    content->ForEach([&iSchemes](const AlarmSourceKey& /*key*/, const AlarmInfo* /*pInfo*/) { ++iSchemes; });
-    return iSchemes;
-}
-
-// A page that stands alone has a title without the placeholder that setWindowModified() asks for.
-void ACSEventSchemeEditor::ShowModified(bool bModified)
-{
-    setAttribute(Qt::WA_WindowModified, bModified);
-    QEvent change(QEvent::ModifiedChange);
-    QCoreApplication::sendEvent(this, &change);
-}
-
-// Only what neither the widget with the focus nor a shortcut of the host has taken arrives here.
-void ACSEventSchemeEditor::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Undo)) {
-        Undo();
-    } else if (event->matches(QKeySequence::Redo) ||
-               (event->key() == Qt::Key_Y && event->modifiers() == Qt::ControlModifier)) {
-        Redo();
-    } else if (event->matches(QKeySequence::Find) && !m_pTree.isNull()) {
-        m_pTree->FocusSearch();
-    } else {
-        QFrame::keyPressEvent(event);
     }
 }
 

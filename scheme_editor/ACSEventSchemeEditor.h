@@ -16,7 +16,10 @@
 #include <optional>
 
 class EditObserver;
+class QAbstractButton;
+class QPushButton;
 class EventCategories;
+class PanelHint;
 class QTreeWidgetItem;
 class SchemeBook;
 class SchemeForm;
@@ -114,7 +117,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    struct SettingsTab;
+    /// One settings tab: its button and the sub-editor behind it.
+    struct SettingsTab
+    {
+        QPushButton* pButton;
+        QWidget* pEditor;
+    };
     /// What the form held when it was last shown or read.
     struct HeldScheme
     {
@@ -135,16 +143,19 @@ private:
     void StoreEditors(bool bInDialog = false);
     void RefreshMarks();
     void UpdateSettingsEnabled();
+    QString HintText() const;
     bool IsSchemeOn(const QString& strSource, int32_t iType) const;
     void GoTo(const SchemeStep& step);
     bool MayUndo();
     void ShowModified(bool bModified);
+    QAbstractButton* ButtonOfKey(const QKeyEvent& event) const;
 
     std::unique_ptr<Ui::ACSEventSchemeEditor> m_ui;
     bool m_bInitialized = false;
     const LXPluginAPI::ManagerList* m_pManagers = nullptr;
     std::unique_ptr<EventCategories> m_categories;
     std::unique_ptr<SchemeForm> m_form;
+    PanelHint* m_pHint = nullptr;                    ///< says what to do when there is nothing to edit
     QPointer<VantaComponent::GroupTreeCtrl> m_pTree; ///< a host may take the widget tree apart piece by piece
     VantaModel::ACSGroupTreeModel* m_pTreeModel = nullptr;
     SchemeSelection m_selection;

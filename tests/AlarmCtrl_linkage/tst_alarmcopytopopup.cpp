@@ -79,6 +79,7 @@ private Q_SLOTS:
     void escapeMeansCancel();
     void theTickedSetIsNotClearedByOk();
     void untickedNodesYieldNothing();
+    void theTitleSaysHowManyTargetsThereAre();
     void aChannelWhoseDeviceWentYieldsNothing();
     void aDeviceRemovedAndAddedAgainYieldsNothing();
     void aDisabledDeviceYieldsNothingAnOfflineOneItsKeys();
@@ -262,6 +263,19 @@ void TestAlarmCopyToPopup::theTickedSetIsNotClearedByOk()
     desk.popup.show();
     desk.Ok();
     QCOMPARE(desk.Keys(), QStringList({QStringLiteral("115$3$0$0"), QStringLiteral("115$3$0$0")}));
+}
+
+void TestAlarmCopyToPopup::theTitleSaysHowManyTargetsThereAre()
+{
+    Desk desk(1);
+    QCOMPARE(desk.popup.GetTitle(), QStringLiteral("Copy to"));
+    QSignalSpy copies(&desk.popup, &QAlarmCopyToPopup::SignalCopyTo);
+    desk.TickEverything();
+    const QString strTitle = desk.popup.GetTitle();
+    desk.popup.GetButton(QDialogButtonBox::Ok)->click();
+    QCOMPARE(copies.size(), 1);
+    const int iTargets = copies.constFirst().constFirst().value<QList<QString>>().size();
+    QCOMPARE(strTitle, QStringLiteral("Copy to %1 Target(s)").arg(iTargets));
 }
 
 void TestAlarmCopyToPopup::untickedNodesYieldNothing()

@@ -1,3 +1,4 @@
+#include "AlarmCtrl/AlarmSchemeData/AlarmSourceKey.h"
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "tests/AlarmCtrl_linkage/SiteHost.h"
@@ -126,6 +127,8 @@ private Q_SLOTS:
     void aDisabledDeviceYieldsNothingAnOfflineOneItsDoors();
     void theSelectedItemTakesTheNewStateNotTheItemAtTheIndex();
     void untickingTakesTheKeyBack();
+    void theTitleSaysHowManyTargetsThereAre();
+    void theSourceIsNoTarget();
     void aReceiverMayAskTheSenderForItsMode();
     void withoutADeviceManagerOkCloses();
     void everythingOfAThousandDoorsIsHandedOutOnce();
@@ -398,6 +401,39 @@ void TestACSEventCopyToPopup::everythingOfAThousandDoorsIsHandedOutOnce()
     QStringList keys = desk.Keys();
     QCOMPARE(keys.size(), 1000);
     QCOMPARE(keys.removeDuplicates(), 0);
+}
+
+void TestACSEventCopyToPopup::theTitleSaysHowManyTargetsThereAre()
+{
+    Desk desk(ACSCopy::Door, TwoControllers());
+    QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to"));
+    QVERIFY(desk.hand.TickChannel(11));
+    QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to 1 Door(s)"));
+    QVERIFY(desk.hand.TickChannel(21));
+    QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to 2 Door(s)"));
+    QVERIFY(desk.hand.TickChannel(11, false));
+    QVERIFY(desk.hand.TickChannel(21, false));
+    QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to"));
+
+    Desk inputs(ACSCopy::AlarmInput);
+    QVERIFY(inputs.hand.TickDevice(1));
+    inputs.Ok();
+    const int iTargets = inputs.Keys().size();
+    Desk again(ACSCopy::AlarmInput);
+    QVERIFY(again.hand.TickDevice(1));
+    QCOMPARE(again.popup->GetTitle(), QStringLiteral("Copy to %1 Alarm Input(s)").arg(iTargets));
+}
+
+void TestACSEventCopyToPopup::theSourceIsNoTarget()
+{
+    Desk desk(ACSCopy::Door, TwoControllers());
+    QVERIFY(desk.hand.TickChannel(11));
+    QVERIFY(desk.hand.TickChannel(21));
+    const QString strSource = EventSource::Door(1, 11);
+    desk.popup->SetSource(strSource);
+    QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to 1 Door(s)"));
+    desk.Ok();
+    QVERIFY2(desk.Keys().contains(strSource), "what is handed out is what is ticked");
 }
 
 QTEST_MAIN(TestACSEventCopyToPopup)

@@ -56,6 +56,7 @@ class TestPageSelection : public QObject
 
 private Q_SLOTS:
     void nothingIsSelectedAtTheStart();
+    void thePageSaysWhatToDoWhenThereIsNothingToEdit();
     void aDoorIsKeptUnderDeviceOneZeroChannel();
     void aDoorOffersThreeCategoriesAndShowsTheFirst();
     void eachCategoryButtonShowsItsContentOnly();
@@ -772,6 +773,26 @@ void TestPageSelection::theCheckedCategoryIsFollowedByItsContent()
             bAbove = bAbove && name != checked;
         }
     }
+}
+
+void TestPageSelection::thePageSaysWhatToDoWhenThereIsNothingToEdit()
+{
+    PageHost host;
+    OpenPage page(&host.managers);
+    const auto* const pHint = page.hands.Widget("wndSettings")
+                                  ->findChild<QLabel*>(QStringLiteral("lblHint"), Qt::FindDirectChildrenOnly);
+    QVERIFY(pHint != nullptr);
+    QVERIFY(pHint->isVisible());
+    QVERIFY(pHint->text().startsWith(QLatin1String("Select a door or a device")));
+    QVERIFY(page.hands.ClickDoor(Front));
+    QVERIFY(!pHint->isVisible());
+    QVERIFY(page.hands.ClickDevice(Vault));
+    QVERIFY(pHint->isVisible());
+    QCOMPARE(pHint->text(), QStringLiteral("This device has no alarm inputs."));
+    QVERIFY(page.hands.ClickDevice(Lobby));
+    QVERIFY(!pHint->isVisible());
+    QVERIFY(page.hands.ClickInputDevice());
+    QVERIFY(pHint->text().startsWith(QLatin1String("Select an alarm input")));
 }
 
 QTEST_MAIN(TestPageSelection)

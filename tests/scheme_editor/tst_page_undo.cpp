@@ -12,7 +12,10 @@
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -86,7 +89,7 @@ QLineEdit* TimeField(const OpenPage& page)
 /// Runs inside the dialog that an action opens.
 void InDialog(const std::function<void(QAlarmDayDetailEditor&)>& act)
 {
-    QTimer::singleShot(0, [act] {
+    QTimer::singleShot(0, qApp, [act] {
         auto* const pDialog = qobject_cast<QAlarmDayDetailEditor*>(QApplication::activeModalWidget());
         QVERIFY(pDialog != nullptr);
         act(*pDialog);
@@ -130,6 +133,8 @@ private Q_SLOTS:
     void savingKeepsTheSteps();
     void theKeysWorkInThePage_data();
     void theKeysWorkInThePage();
+    void aHostsMenuAndThePageDoNotMeet();
+    void thePageLeavesKeysToTheWindowThatItDoesNotKnow();
     void theHostIsToldOfEveryChange();
     void theStepsAreLimited();
     void undoOnAPageWithoutServicesDoesNothing();
@@ -590,7 +595,7 @@ void TestPageUndo::aRefusedMailSwitchIsNoStep()
     PageHost::MakeMailUnusable();
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    QTimer::singleShot(0, [] {
+    QTimer::singleShot(0, qApp, [] {
         QWidget* const pBox = QApplication::activeModalWidget();
         QVERIFY(pBox != nullptr);
         QCoreApplication::sendPostedEvents(); // the page hears of nothing before the answer
@@ -646,6 +651,73 @@ void TestPageUndo::theKeysWorkInThePage()
     QVERIFY(!page.hands.IsOpenShown());
     QTest::keyClick(pFocus, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(page.hands.IsOpenShown());
+}
+
+void TestPageUndo::aHostsMenuAndThePageDoNotMeet()
+{
+    PageHost host;
+    QMainWindow window;
+    auto* const pPage = new ACSEventSchemeEditor;
+    pPage->Init(&host.managers);
+    window.setCentralWidget(pPage);
+    QAction undo;
+    undo.setShortcut(QKeySequence::Undo);
+    window.addAction(&undo);
+    int iAsked = 0;
+    connect(&undo, &QAction::triggered, pPage, [&iAsked, pPage] {
+        ++iAsked;
+        QMetaObject::invokeMethod(pPage, "Undo");
+    });
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const PageHands hands(*pPage);
+    QVERIFY(hands.ClickDoor(Front));
+    QVERIFY(hands.ToggleOpen());
+    QVERIFY(hands.ToggleSound());
+    hands.Widget("btnOpenStatus")->setFocus();
+    QTest::keyClick(hands.Widget("btnOpenStatus"), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(iAsked, 1);
+    QVERIFY2(hands.IsOpenShown() && !hands.IsSoundShown(), "one key, one step");
+    // A host whose menu is disabled leaves the key to the page, which then has the say.
+    undo.setEnabled(false);
+    QTest::keyClick(hands.Widget("btnOpenStatus"), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(iAsked, 1);
+    QVERIFY(!hands.IsOpenShown());
+    // In a text field neither of them is asked.
+    undo.setEnabled(true);
+    QVERIFY(hands.ToggleOutput(Siren));
+    QTRY_COMPARE(pPage->property("undoText").toString(), QStringLiteral("Link 1 Output(s)"));
+    auto* const pTime = pPage->findChild<QLineEdit*>(QStringLiteral("edtTime"));
+    pTime->setFocus();
+    QTRY_VERIFY(pTime->hasFocus());
+    QTest::keyClick(pTime, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(iAsked, 1);
+    QCOMPARE(pPage->property("undoText").toString(), QStringLiteral("Link 1 Output(s)"));
+}
+
+void TestPageUndo::thePageLeavesKeysToTheWindowThatItDoesNotKnow()
+{
+    PageHost host;
+    OpenPage page(&host.managers);
+    page.Page().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&page.Page()));
+    QVERIFY(page.hands.ClickDoor(Front));
+    QWidget* const pFrom = page.hands.Widget("btnOpenStatus");
+    pFrom->setFocus();
+    QTest::keyClick(pFrom, Qt::Key_F, Qt::ControlModifier);
+    QTRY_VERIFY(page.hands.Widget("wndDevTree")->isAncestorOf(QApplication::focusWidget()));
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("edtSearch"));
+    pFrom->setFocus();
+    QTest::keyClick(pFrom, Qt::Key_3, Qt::ControlModifier);
+    QVERIFY(page.hands.Button("btnDefTime")->isChecked());
+    QTest::keyClick(pFrom, Qt::Key_2, Qt::AltModifier);
+    QVERIFY(page.hands.Button("btnAbnormal")->isChecked());
+    QTest::keyClick(pFrom, Qt::Key_4, Qt::AltModifier); // no such category is shown
+    QVERIFY(page.hands.Button("btnAbnormal")->isChecked());
+    QKeyEvent strange(QEvent::KeyPress, Qt::Key_K, Qt::ControlModifier);
+    QCoreApplication::sendEvent(pFrom, &strange);
+    QVERIFY(!strange.isAccepted());
 }
 
 void TestPageUndo::theHostIsToldOfEveryChange()

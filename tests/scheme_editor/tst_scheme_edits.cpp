@@ -260,7 +260,7 @@ void TestSchemeEdits::aStepAfterALargeCopyCostsLittle()
     SchemeBook book(AllKnown);
     book.Schemes() = SchemeCopy::Copy(site.map, site.strSource, site.targets, SchemeCopy::DoorEventTypes());
     book.MarkLoaded();
-    const AlarmSourceKey key{site.targets.first(), SchemeCopy::DoorEventTypes().first()};
+    const AlarmSourceKey key{site.targets.constFirst(), SchemeCopy::DoorEventTypes().constFirst()};
     const AlarmInfo before = book.Schemes().value(key);
     book.Schemes()[key].bOpen = false;
     book.RecordEdit(key, before, SchemeStep(), SchemeActionText::Way::OnPage);
