@@ -167,6 +167,7 @@ void ClientApplication::PrepareSystem()
         ClientTranslations::Choose(m_options.strLanguage, m_settings->Language(), QLocale::system().name());
     m_translations = std::make_unique<ClientTranslations>(
         strLanguage, ClientPaths::TranslationDirectories(m_strProgramDirectory));
+    QLocale::setDefault(ClientTranslations::Locale(strLanguage, QLocale::system()));
     QSystem* pSystem = QSystem::GetInstance();
     pSystem->SetLanguage(strLanguage);
     pSystem->SetMailSettings(m_settings->Mail());
@@ -205,10 +206,10 @@ void ClientApplication::OpenSite()
     const auto showSite = [this] { m_window->SetSite(m_site->FileName(), m_site->DeviceCount()); };
     connect(m_site.get(), &SiteSession::SignalDevicesChanged, m_window.get(), showSite);
     connect(m_site.get(), &SiteSession::SignalWriteFailed, m_window.get(), &MainWindow::AddProblem);
-    showSite();
     m_siteTransfer = std::make_unique<SiteTransfer>(*m_site, m_window.get());
     connect(m_window.get(), &MainWindow::SignalImportSite, m_siteTransfer.get(), &SiteTransfer::Import);
     connect(m_window.get(), &MainWindow::SignalExportSite, m_siteTransfer.get(), &SiteTransfer::Export);
+    showSite();
     m_hub.SetDeviceManager(&m_site->Devices());
     m_hub.SetTreeExpansion(m_expansion.get());
     m_hub.SetMainWindow(m_window.get());

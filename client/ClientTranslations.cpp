@@ -50,3 +50,13 @@ QString ClientTranslations::Choose(const QString& strAsked, const QString& strKe
     }
     return strSystemLocale.startsWith(QLatin1String("zh")) ? QStringLiteral("zh_cn") : QStringLiteral("en");
 }
+
+QLocale ClientTranslations::Locale(const QString& strCode, const QLocale& system)
+{
+    const bool bChinese = strCode == QLatin1String("zh_cn");
+    const QLocale::Language eLanguage = bChinese ? QLocale::Chinese : QLocale::English;
+    if (system.language() == eLanguage) {
+        return system;
+    }
+    return bChinese ? QLocale(QLocale::Chinese, QLocale::China) : QLocale(QLocale::English);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -21,6 +22,10 @@ public:
 
     /// The language to start with: what was asked for, else what is kept, else what the system speaks.
     static QString Choose(const QString& strAsked, const QString& strKept, const QString& strSystemLocale);
+
+    /// How dates and numbers are written in a language: as the system does where it speaks the language, else
+    /// as is usual in it.
+    static QLocale Locale(const QString& strCode, const QLocale& system);
 
 private:
     bool Install(const QString& strName, const QStringList& directories);

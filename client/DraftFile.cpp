@@ -151,7 +151,7 @@ QString DraftFile::SetAside() const
 {
     for (int i = 1; i <= MaximumNames; ++i) {
         const QString strNumber = i == 1 ? QString() : QLatin1Char('-') + QString::number(i);
-        const QString strAside = m_strPath + QStringLiteral(".broken") + strNumber;
+        QString strAside = m_strPath + QStringLiteral(".broken") + strNumber;
         if (!QFile::exists(strAside) && QFile::rename(m_strPath, strAside)) {
             return strAside;
         }

@@ -64,10 +64,10 @@ EditActions::EditActions(const Actions& actions, QObject* parent)
     , m_actions(actions)
 {
     // The platforms differ in their keys for redo; here all of them work.
-    m_actions.pUndo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    m_actions.pUndo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
     m_actions.pRedo->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
-    m_actions.pFind->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
+        {QKeySequence(QStringLiteral("Ctrl+Y")), QKeySequence(QStringLiteral("Ctrl+Shift+Z"))});
+    m_actions.pFind->setShortcut(QKeySequence(QStringLiteral("Ctrl+F")));
     connect(m_actions.pUndo, &QAction::triggered, this, &EditActions::OnUndo);
     connect(m_actions.pRedo, &QAction::triggered, this, &EditActions::OnRedo);
     connect(m_actions.pFind, &QAction::triggered, this, &EditActions::OnFind);

@@ -182,6 +182,9 @@ void MainWindow::ClosePage(int iTab)
     }
     if (page->isWindowModified()) {
         m_pPages->Discard(page);
+        if (m_pPages->Modified().isEmpty()) {
+            ShowUnsaved(false); // what a failed save was to store is wanted no longer
+        }
     } else {
         m_pPages->Hide(page);
     }

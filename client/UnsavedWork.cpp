@@ -42,11 +42,7 @@ void UnsavedWork::MarkPagesUnsaved()
 bool UnsavedWork::MayClose()
 {
     const auto closeLater = [this] { m_window.close(); };
-    if (IsSaving()) {
-        m_afterSave = closeLater;
-        LXGUI::LXSingleton<LXMessageNotify>::Instance()->AddTextNotification(
-            tr("The schemes are being saved. The program closes when that is done."),
-            LXMessageNotify::Information);
+    if (WaitsForSave(tr("The schemes are being saved. The program closes when that is done."), closeLater)) {
         return false;
     }
     const Pages pages = m_tabs.Modified();
@@ -61,14 +57,20 @@ bool UnsavedWork::MayClose()
 bool UnsavedWork::MayCloseTab(QWidget* pPage, const std::function<void()>& again)
 {
     if (!pPage->isWindowModified()) {
-        return true;
+        return true; // nothing goes with the tab
     }
-    return SettleAndWait(
-        {pPage}, tr("%1: there are changes that are not saved. Save them before the tab closes?"), again);
+    return !WaitsForSave(tr("The schemes are being saved. The tab closes when that is done."), again) &&
+           SettleAndWait({pPage},
+                         tr("%1: there are changes that are not saved. Save them before the tab closes?"),
+                         again);
 }
 
 bool UnsavedWork::MayReload(const std::function<void()>& again)
 {
+    // Should a save under way fail, the pages that go are the only ones who know what it was to store.
+    if (WaitsForSave(tr("The schemes are being saved. They are loaded anew when that is done."), again)) {
+        return false;
+    }
     const Pages pages = m_tabs.Modified();
     return pages.isEmpty() ||
            SettleAndWait(
@@ -82,18 +84,39 @@ bool UnsavedWork::MayEndSession(bool bMayAsk)
     if (!bMayAsk) {
         return true;
     }
-    const Pages pages = m_tabs.Modified();
-    if (!pages.isEmpty() &&
-        Settle(pages, tr("%1: there are changes that are not saved. Save them before the session ends?")) ==
-            Outcome::Stay) {
-        return false;
-    }
     // The session ends with the return: what is being saved has to be on the disk by then.
     const QPointer<UnsavedWork> self(this);
-    if (!m_store.isNull()) {
-        m_store->WaitForSaves();
+    const auto waitForStore = [this] {
+        if (!m_store.isNull()) {
+            m_store->WaitForSaves();
+        }
+    };
+    waitForStore();
+    if (self.isNull()) {
+        return true;
     }
+    const Pages pages = m_tabs.Modified();
+    if (pages.isEmpty()) {
+        return !m_bSaveFailed || AskAboutFailedSave();
+    }
+    const Outcome eOutcome =
+        Settle(pages, tr("%1: there are changes that are not saved. Save them before the session ends?"));
+    if (eOutcome != Outcome::Saving) {
+        return eOutcome == Outcome::Go;
+    }
+    waitForStore();
     return self.isNull() || !m_bSaveFailed;
+}
+
+bool UnsavedWork::WaitsForSave(const QString& strNote, const std::function<void()>& again)
+{
+    if (!IsSaving()) {
+        return false;
+    }
+    m_afterSave = again;
+    LXGUI::LXSingleton<LXMessageNotify>::Instance()->AddTextNotification(strNote,
+                                                                         LXMessageNotify::Information);
+    return true;
 }
 
 bool UnsavedWork::SettleAndWait(const Pages& pages, const QString& strQuestion,

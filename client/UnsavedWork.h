@@ -53,6 +53,9 @@ private:
 
     Outcome Settle(const Pages& pages, const QString& strQuestion);
     bool SettleAndWait(const Pages& pages, const QString& strQuestion, const std::function<void()>& again);
+    /// True while a save is under way; then the operator is told, and `again` is called once it has
+    /// succeeded.
+    bool WaitsForSave(const QString& strNote, const std::function<void()>& again);
     bool IsSaving() const;
     bool AskAboutFailedSave();
     void OnSavingChanged(bool bSaving);

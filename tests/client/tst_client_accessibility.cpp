@@ -114,7 +114,7 @@ void TestClientAccessibility::everyEntryOfTheMenusHasAName()
     const QList<QMenu*> menus = m_window->menuBar()->findChildren<QMenu*>();
     QVERIFY(menus.size() >= 4);
     for (QMenu* const pMenu : menus) {
-        if (!pMenu->menuAction()->isVisible()) {
+        if (pMenu->isEmpty()) {
             continue; // nobody has put anything into it
         }
         const QStringList complaints = AccessibleWalk::Complaints(*pMenu, 1);

@@ -3,6 +3,7 @@
 #include "client/ClientApplication.h"
 #include "client/ClientPaths.h"
 #include "client/ClientSettings.h"
+#include "client/ClientTranslations.h"
 #include "client/HomePage.h"
 #include "client/MainWindow.h"
 #include "client/SiteSession.h"
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void takingDownLeavesNoBackendAndNoRemoval();
     void mailSettingsComeBackAtTheNextStart();
     void aChosenLanguageIsSpokenFromTheNextStartOn();
+    void datesAreWrittenAsTheLanguageDoes();
     void aSiteWithoutDevicesSaysWhatToDo();
     void whatWasUnfoldedComesBackAtTheNextStart();
     void closingTheWindowEndsTheClient();
@@ -271,6 +273,22 @@ void TestClientApplication::aChosenLanguageIsSpokenFromTheNextStartOn()
     QCOMPARE(QSystem::GetInstance()->GetLanguage(), QStringLiteral("en"));
     m_client.reset();
     QCOMPARE(ClientSettings(ClientPaths::SettingsFile(m_data->path())).Language(), QStringLiteral("zh_cn"));
+}
+
+void TestClientApplication::datesAreWrittenAsTheLanguageDoes()
+{
+    const QLocale british(QLocale::English, QLocale::UnitedKingdom);
+    const QLocale german(QLocale::German);
+    QCOMPARE(ClientTranslations::Locale(QStringLiteral("en"), british), british);
+    QCOMPARE(ClientTranslations::Locale(QStringLiteral("en"), german).language(), QLocale::English);
+    QCOMPARE(ClientTranslations::Locale(QStringLiteral("zh_cn"), german).name(), QStringLiteral("zh_CN"));
+    m_options.strLanguage = QStringLiteral("zh_cn");
+    QVERIFY(Start());
+    QCOMPARE(QLocale().language(), QLocale::Chinese);
+    m_client.reset();
+    m_options.strLanguage = QStringLiteral("en");
+    QVERIFY(Start());
+    QVERIFY(QLocale().language() != QLocale::Chinese);
 }
 
 void TestClientApplication::aSiteWithoutDevicesSaysWhatToDo()

@@ -138,6 +138,10 @@ void TestClientOptions::argumentsOfTheToolkitAreNotOurs()
                                         QStringLiteral("--role"), QStringLiteral("operator")});
     QCOMPARE(parsed.outcome, ParsedOptions::Outcome::Start);
     QCOMPARE(parsed.options.role, UserRole::Operator);
+    // A session that starts the program again hands it its place in the session.
+    QCOMPARE(ClientOptionParser::WithoutToolkitArguments(
+                 {QStringLiteral("acs-client"), QStringLiteral("-session"), QStringLiteral("10a_1")}),
+             QStringList{QStringLiteral("acs-client")});
     QCOMPARE(ClientOptionParser::WithoutToolkitArguments({QStringLiteral("-platform")}),
              QStringList{QStringLiteral("-platform")}); // the program's own name is never an option
 }

@@ -56,7 +56,11 @@ private Q_SLOTS:
     void aSessionEndAsks();
     void aSessionEndWaitsForTheSave();
     void aSessionEndIsStoppedByASaveThatFails();
+    void aSessionMayEndWhenTheEditsAreDiscardedAfterAFailure();
     void aSessionEndThatMayNotAskGoesOn();
+    void loadingAnewDuringASaveWaitsForIt();
+    void aTabClosedDuringASaveWaitsForIt();
+    void discardingAfterAFailureIsTheEndOfIt();
     void pagesAreToldWhenASaveFailed();
     void ctrlSSaves();
     void theWindowTitleShowsIt();
@@ -329,6 +333,56 @@ void TestUnsavedWork::aSessionEndIsStoppedByASaveThatFails()
     m_answer = std::make_unique<DialogAnswer>("btnKeep");
     QVERIFY(!m_window->Unsaved().MayEndSession(true));
     QVERIFY(m_page->isWindowModified());
+}
+
+void TestUnsavedWork::aSessionMayEndWhenTheEditsAreDiscardedAfterAFailure()
+{
+    QVERIFY(Store(false));
+    QTRY_VERIFY(!m_store->IsSaving());
+    QVERIFY(m_page->isWindowModified() && m_saving->IsUnsaved());
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    QVERIFY(m_window->Unsaved().MayEndSession(true));
+}
+
+void TestUnsavedWork::loadingAnewDuringASaveWaitsForIt()
+{
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_page->OnSave();
+    QVERIFY(!m_page->isWindowModified() && m_store->IsSaving());
+    QVERIFY(!m_window->ReloadPages());
+    QVERIFY(!m_page.isNull()); // it alone knows what the save is to store
+    other.Release();
+    QTRY_VERIFY(m_page.isNull());
+}
+
+void TestUnsavedWork::aTabClosedDuringASaveWaitsForIt()
+{
+    m_page->Edit(QStringLiteral("x"));
+    OtherProgram other(m_folder->File(), ForWriting, TooLong);
+    QVERIFY(other.Holds());
+    m_page->OnSave();
+    m_page->Edit(QStringLiteral("y"));
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    m_window->ClosePage(1);
+    QVERIFY(!m_answer->WasGiven() && Tabs()->count() == 2);
+    other.Release();
+    QTRY_VERIFY(m_page.isNull());
+    QVERIFY(m_answer->WasGiven() && m_store->LastOutcome().IsSuccess());
+}
+
+void TestUnsavedWork::discardingAfterAFailureIsTheEndOfIt()
+{
+    QVERIFY(Store(false));
+    QTRY_VERIFY(!m_store->IsSaving());
+    QVERIFY(m_page->isWindowModified());
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    m_window->ClosePage(1);
+    QVERIFY(m_page.isNull());
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(m_window->close());
+    QVERIFY(!m_answer->WasGiven());
 }
 
 void TestUnsavedWork::aSessionEndThatMayNotAskGoesOn()
