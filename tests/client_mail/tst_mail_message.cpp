@@ -2,18 +2,20 @@
 
 #include <QtTest>
 
+#include <vector>
+
 namespace {
 
-QList<QByteArray> Lines(const QByteArray& bytes)
+std::vector<QByteArray> Lines(const QByteArray& bytes)
 {
-    QList<QByteArray> lines;
+    std::vector<QByteArray> lines;
     int iAt = 0;
     for (int iEnd = static_cast<int>(bytes.indexOf("\r\n")); iEnd >= 0;
          iEnd = static_cast<int>(bytes.indexOf("\r\n", iAt))) {
-        lines.append(bytes.mid(iAt, iEnd - iAt));
+        lines.push_back(bytes.mid(iAt, iEnd - iAt));
         iAt = iEnd + 2;
     }
-    lines.append(bytes.mid(iAt));
+    lines.push_back(bytes.mid(iAt));
     return lines;
 }
 

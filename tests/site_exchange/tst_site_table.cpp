@@ -8,7 +8,10 @@ Q_DECLARE_METATYPE(Site)
 
 namespace {
 
-const QByteArray Heading("record,id,parent,name,type,number,enabled,online\n");
+QByteArray Heading()
+{
+    return "record,id,parent,name,type,number,enabled,online\n";
+}
 
 SiteTable::Parsed Parse(const QByteArray& text, const Site& before = {})
 {
@@ -131,11 +134,11 @@ void TestSiteTable::aTableMayBeWrittenInManyWays()
 
 void TestSiteTable::recordsMayComeInAnyOrder()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + "channel,4,3,D,door,1,,\n"
-                                                     "device,3,2,C,12,,,\n"
-                                                     "group,2,1,B,,,,\n"
-                                                     "group,1,,A,,,,\n"
-                                                     "channel,5,3,E,door,2,,\n");
+    const SiteTable::Parsed parsed = Parse(Heading() + "channel,4,3,D,door,1,,\n"
+                                                       "device,3,2,C,12,,,\n"
+                                                       "group,2,1,B,,,,\n"
+                                                       "group,1,,A,,,,\n"
+                                                       "channel,5,3,E,door,2,,\n");
     QCOMPARE(Printed(parsed.problems), QString());
     QCOMPARE(parsed.site.groups.size(), 2);
     QCOMPARE(parsed.site.groups.at(0).iGroupId, int64_t(2));
@@ -169,9 +172,10 @@ void TestSiteTable::emptyStatesKeepWhatTheRecordHas()
 
 void TestSiteTable::typesAreWordsOrNumbers()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + "device,1,,A,alarm host,,,\ndevice,2,,B,virtual,,,\n"
-                                                     "device,3,,C,18,,,\nchannel,4,1,D,video,0,,\n"
-                                                     "channel,5,1,E,alarm output,0,,\nchannel,6,1,F,6,0,,\n");
+    const SiteTable::Parsed parsed =
+        Parse(Heading() + "device,1,,A,alarm host,,,\ndevice,2,,B,virtual,,,\n"
+                          "device,3,,C,18,,,\nchannel,4,1,D,video,0,,\n"
+                          "channel,5,1,E,alarm output,0,,\nchannel,6,1,F,6,0,,\n");
     QCOMPARE(Printed(parsed.problems), QString());
     QCOMPARE(parsed.site.devices.at(0).iDeviceType, 15);
     QCOMPARE(parsed.site.devices.at(1).iDeviceType, 16);
@@ -184,7 +188,7 @@ void TestSiteTable::typesAreWordsOrNumbers()
 void TestSiteTable::everyRecordKnowsItsLine()
 {
     const SiteTable::Parsed parsed =
-        Parse(Heading + "\ngroup,1,,A,,,,\ndevice,2,1,\"B\",12,,,\nchannel,3,2,C,6,1,,\n");
+        Parse(Heading() + "\ngroup,1,,A,,,,\ndevice,2,1,\"B\",12,,,\nchannel,3,2,C,6,1,,\n");
     QCOMPARE(parsed.lines, (QHash<int64_t, int>{{1, 3}, {2, 4}, {3, 5}}));
 }
 
@@ -197,7 +201,7 @@ void TestSiteTable::everyLineThatIsWrongIsTold_data()
         QTest::newRow(szName) << text << iLine << QString::fromLatin1(szPart);
     };
     const auto row = [&whole](const char* szName, const QByteArray& rows, int iLine, const char* szPart) {
-        whole(szName, Heading + "group,1,,A,,,,\ndevice,2,1,B,12,,,\nchannel,3,2,C,6,1,,\n" + rows, iLine,
+        whole(szName, Heading() + "group,1,,A,,,,\ndevice,2,1,B,12,,,\nchannel,3,2,C,6,1,,\n" + rows, iLine,
               szPart);
     };
     whole("an empty file", "", 0, "empty");
@@ -271,36 +275,36 @@ void TestSiteTable::everyLineThatIsWrongIsTold()
 
 void TestSiteTable::allThatIsWrongIsToldAtOnce()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + "group,x,,,,,,\n"
-                                                     "device,2,77,B,99,,perhaps,\n"
-                                                     "channel,3,88,C,6,1,,\n"
-                                                     "group,4,,Good,,,,\n"
-                                                     "what,,,,,,,\n");
+    const SiteTable::Parsed parsed = Parse(Heading() + "group,x,,,,,,\n"
+                                                       "device,2,77,B,99,,perhaps,\n"
+                                                       "channel,3,88,C,6,1,,\n"
+                                                       "group,4,,Good,,,,\n"
+                                                       "what,,,,,,,\n");
     QCOMPARE(LinesOf(parsed.problems), (QVector<int>{2, 2, 3, 3, 4, 6}));
 }
 
 void TestSiteTable::aRowThatIsWrongIsNoReasonToComplainOfItsChildren()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + "group,1,,,,,,\n"
-                                                     "device,2,1,,12,,,\n"
-                                                     "channel,3,2,C,6,1,,\n");
+    const SiteTable::Parsed parsed = Parse(Heading() + "group,1,,,,,,\n"
+                                                       "device,2,1,,12,,,\n"
+                                                       "channel,3,2,C,6,1,,\n");
     QCOMPARE(LinesOf(parsed.problems), (QVector<int>{2, 3}));
 }
 
 void TestSiteTable::linesInAnotherEncodingAreTold()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + "group,1,,T\xFCr,,,,\n"
-                                                     "group,2,,T\xC3\xBCr,,,,\r\n"
-                                                     "group,3,,\xC3,,,,\n"
-                                                     "group,4,,\xED\xA0\x80,,,,\n"
-                                                     "group,5,,\xC0\x80,,,,\n");
+    const SiteTable::Parsed parsed = Parse(Heading() + "group,1,,T\xFCr,,,,\n"
+                                                       "group,2,,T\xC3\xBCr,,,,\r\n"
+                                                       "group,3,,\xC3,,,,\n"
+                                                       "group,4,,\xED\xA0\x80,,,,\n"
+                                                       "group,5,,\xC0\x80,,,,\n");
     QCOMPARE(LinesOf(parsed.problems), (QVector<int>{2, 4, 5, 6}));
     QVERIFY(parsed.problems.list.constFirst().strReason.contains(QLatin1String("UTF-8")));
 }
 
 void TestSiteTable::textInUtf16IsTold()
 {
-    const QString strText = QString::fromLatin1(Heading);
+    const QString strText = QString::fromLatin1(Heading());
     const QByteArray little(reinterpret_cast<const char*>(strText.utf16()), 2 * int(strText.size()));
     for (const QByteArray& text : {"\xFF\xFE" + little, little, QByteArray("\xFE\xFF\0r\0e", 6)}) {
         const SiteTable::Parsed parsed = Parse(text);
@@ -311,7 +315,7 @@ void TestSiteTable::textInUtf16IsTold()
 
 void TestSiteTable::problemsBeyondTheLimitAreCounted()
 {
-    const SiteTable::Parsed parsed = Parse(Heading + QByteArray("nonsense,1,,A,,,,\n").repeated(50000));
+    const SiteTable::Parsed parsed = Parse(Heading() + QByteArray("nonsense,1,,A,,,,\n").repeated(50000));
     QCOMPARE(parsed.problems.list.size(), int(SiteProblems::Limit));
     QVERIFY(parsed.problems.iFurther > 0);
 }
@@ -321,7 +325,7 @@ void TestSiteTable::aHugeCellIsToldBriefly()
     const QByteArray huge(5000000, 'x');
     for (const QByteArray& row : {"group,1,,\"" + huge + "\",,,,\n", "group," + huge + ",,A,,,,\n",
                                   huge + ",1,,A,,,,\n", "device,1,,A,12,,\"" + huge + "\n\",\n"}) {
-        const SiteTable::Parsed parsed = Parse(Heading + row);
+        const SiteTable::Parsed parsed = Parse(Heading() + row);
         QCOMPARE(parsed.problems.list.size(), 1);
         QCOMPARE(parsed.problems.list.constFirst().iLine, 2);
         QVERIFY(parsed.problems.list.constFirst().strReason.size() < 200);
