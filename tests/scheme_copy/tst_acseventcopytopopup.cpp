@@ -415,11 +415,11 @@ void TestACSEventCopyToPopup::theTitleSaysHowManyTargetsThereAre()
     QVERIFY(desk.hand.TickChannel(21, false));
     QCOMPARE(desk.popup->GetTitle(), QStringLiteral("Copy to"));
 
-    Desk inputs(ACSCopy::AlarmInput);
+    Desk inputs(ACSCopy::AlarmInput, TwoControllers());
     QVERIFY(inputs.hand.TickDevice(1));
     inputs.Ok();
     const int iTargets = inputs.Keys().size();
-    Desk again(ACSCopy::AlarmInput);
+    Desk again(ACSCopy::AlarmInput, TwoControllers());
     QVERIFY(again.hand.TickDevice(1));
     QCOMPARE(again.popup->GetTitle(), QStringLiteral("Copy to %1 Alarm Input(s)").arg(iTargets));
 }
