@@ -1,5 +1,7 @@
 #include "client/insight/BackgroundJob.h"
 
+#include <QPointer>
+
 BackgroundJob::BackgroundJob(QObject* parent)
     : QObject(parent)
 {
@@ -39,11 +41,13 @@ void BackgroundJob::Finish(const std::shared_ptr<Stop>& stop, const Result& resu
     if (stop != m_stop) {
         return;
     }
-    m_stop.reset();
+    const QPointer<BackgroundJob> self(this);
     if (result) {
         result();
     }
-    if (!m_stop) {
+    // The result may have started more work, or destroyed the job.
+    if (!self.isNull() && stop == m_stop) {
+        m_stop.reset();
         Q_EMIT SignalRunningChanged(false);
     }
 }

@@ -193,7 +193,8 @@ SaveResult StoredSchemes::Run(const Planner& makePlan, const SaveOrigin& origin,
     m_history.TryAgain();
     SaveResult result = RunOnce(makePlan, origin, progress, bEditors);
     QString historyFailure = m_history.Failure();
-    if (result.eReason != Reason::None && m_history.IsKept() && (m_history.HasFailed() || m_bCommitFailed)) {
+    if (result.eReason != Reason::None && m_history.IsKept() &&
+        (m_history.HasFailed() || (m_bCommitFailed && result.eReason != Reason::Locked))) {
         // The schemes come first: once more, without the history.
         if (historyFailure.isEmpty())
             historyFailure = result.strTechnical;
