@@ -5,6 +5,8 @@
 #include "client/store/SchemeHistoryPacking.h"
 
 #include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
 #include <QSet>
 
 #include <sqlite3.h>
@@ -72,9 +74,10 @@ SchemeHistoryKind KindOf(int iStored)
 
 } // namespace
 
-QString SchemeHistoryFile::FileName()
+QString SchemeHistoryFile::PathBeside(const QString& strSchemeFile)
 {
-    return QStringLiteral("AlarmSchemeHistory.db");
+    const QFileInfo file(strSchemeFile);
+    return file.dir().filePath(file.completeBaseName() + QStringLiteral("History.db"));
 }
 
 SchemeHistoryFile::SchemeHistoryFile(sqlite3* pDatabase, Place ePlace)

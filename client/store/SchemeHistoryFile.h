@@ -26,7 +26,8 @@ public:
         Main,
         Attached,
     };
-    static QString FileName(); ///< "AlarmSchemeHistory.db"
+    /// Where the history of a scheme file lies: beside it, "AlarmSchemeHistory.db" for "AlarmScheme.db".
+    static QString PathBeside(const QString& strSchemeFile);
 
     /// The connection must outlive the object.
     SchemeHistoryFile(sqlite3* pDatabase, Place ePlace);

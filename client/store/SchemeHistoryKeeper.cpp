@@ -1,6 +1,5 @@
 #include "client/store/SchemeHistoryKeeper.h"
 
-#include <QDir>
 #include <QtEndian>
 
 #include <sqlite3.h>
@@ -15,12 +14,12 @@ constexpr sqlite3_int64 CounterOffset = 24;
 
 } // namespace
 
-void SchemeHistoryKeeper::Start(sqlite3* pDatabase, const QString& strFolder)
+void SchemeHistoryKeeper::Start(sqlite3* pDatabase, const QString& strSchemeFile)
 {
     Forget();
     m_pDatabase = pDatabase;
     m_file.emplace(pDatabase, SchemeHistoryFile::Place::Attached);
-    if (m_file->Attach(QDir(strFolder).filePath(SchemeHistoryFile::FileName())))
+    if (m_file->Attach(SchemeHistoryFile::PathBeside(strSchemeFile)))
         return;
     m_strFailure = m_file->LastError();
     m_file.reset();

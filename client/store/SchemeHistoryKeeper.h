@@ -19,9 +19,9 @@ public:
     /// Steps are kept for so long unless another time is set, in days.
     static constexpr int DefaultDays = 2 * 365;
 
-    /// Begins with the history file of this folder, outside any transaction. The connection must outlive the
+    /// Begins with the history of this scheme file, outside any transaction. The connection must outlive the
     /// keeping of it.
-    void Start(sqlite3* pDatabase, const QString& strFolder);
+    void Start(sqlite3* pDatabase, const QString& strSchemeFile);
     void Stop(); ///< outside any transaction
     /// Forgets the connection, which is closed already or about to be.
     void Forget();

@@ -1,6 +1,5 @@
 #include "client/store/SchemeHistoryReader.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <sqlite3.h>
@@ -20,7 +19,7 @@ void SchemeHistoryReader::Closer::operator()(sqlite3* pDatabase) const
 
 SchemeHistoryReader::SchemeHistoryReader(const QString& strSchemeFile)
 {
-    const QString path = QFileInfo(strSchemeFile).dir().filePath(SchemeHistoryFile::FileName());
+    const QString path = SchemeHistoryFile::PathBeside(strSchemeFile);
     if (!QFileInfo::exists(path)) {
         m_strProblem = tr("There is no history yet; it begins with the next save.");
         return;

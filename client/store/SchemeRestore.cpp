@@ -81,7 +81,7 @@ SchemeRestore::Failure SchemeRestore::Look(AlarmInfoMap& held)
     store.TakeFirstFailure();
     const int64_t failedBefore = store.FailedStatements();
     SchemeHistoryKeeper history;
-    history.Start(store.GetHandle(), QFileInfo(m_strDatabase).path());
+    history.Start(store.GetHandle(), m_strDatabase);
     {
         SaveTransaction transaction(store);
         if (transaction.IsAlive())
@@ -138,7 +138,7 @@ void SchemeRestore::Note(const AlarmInfoMap& before, const AlarmInfoMap& after, 
     entry.strNote = origin.strNote;
     SchemeHistoryKeeper history;
     AlarmSchemeDatabaseParser& store = *m_connection.Store();
-    history.Start(store.GetHandle(), QFileInfo(m_strDatabase).path());
+    history.Start(store.GetHandle(), m_strDatabase);
     {
         SaveTransaction transaction(store);
         // The history is held to what it ended with, so that the exchange counts as this step and not as

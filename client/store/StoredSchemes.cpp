@@ -5,8 +5,6 @@
 #include "client/store/SaveTransaction.h"
 #include "client/store/SchemeBackups.h"
 
-#include <QFileInfo>
-
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -63,7 +61,7 @@ void StoredSchemes::Open()
     m_history.Forget();
     m_connection.Open();
     if (IsOpen() && !m_connection.OpeningFailure() && !m_bHistoryGivenUp)
-        m_history.Start(m_connection.Store()->GetHandle(), QFileInfo(GetPath()).path());
+        m_history.Start(m_connection.Store()->GetHandle(), GetPath());
 }
 
 QString StoredSchemes::GetPath() const

@@ -36,11 +36,17 @@ AlarmInfoMap Map(int iDoors)
     return map;
 }
 
+QString HistoryPath()
+{
+    return SchemeHistoryFile::PathBeside(
+        QDir(QGetDatabaseDirPath()).filePath(QStringLiteral("AlarmScheme.db")));
+}
+
 /// The history as somebody else reads it.
 struct Reader
 {
     Reader()
-        : database(QDir(QGetDatabaseDirPath()).filePath(SchemeHistoryFile::FileName()))
+        : database(HistoryPath())
         , history(database.Handle(), SchemeHistoryFile::Place::Main)
     {
     }
@@ -191,7 +197,7 @@ void SchemeHistoryTest::whatTheFileHeldBeforeIsTheStart()
         client.map = Map(4);
         QCOMPARE(client.Save(), 0);
     }
-    QVERIFY(QFile::remove(QDir(QGetDatabaseDirPath()).filePath(SchemeHistoryFile::FileName())));
+    QVERIFY(QFile::remove(HistoryPath()));
     StoreClient client;
     client.map.remove(Door(3));
     QCOMPARE(client.Save(), 0);
@@ -290,7 +296,7 @@ void SchemeHistoryTest::twoClientsTellOneHistory()
 
 void SchemeHistoryTest::aBrokenHistoryDoesNotKeepSchemesFromBeingSaved()
 {
-    QFile file(QDir(QGetDatabaseDirPath()).filePath(SchemeHistoryFile::FileName()));
+    QFile file(HistoryPath());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(10'000, '?'));
     file.close();

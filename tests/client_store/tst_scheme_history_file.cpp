@@ -26,11 +26,16 @@ SchemeHistoryEntry Entry(const QString& strWho, qint64 iSecond = 0)
     return entry;
 }
 
+QString HistoryPath(const QTemporaryDir& folder)
+{
+    return SchemeHistoryFile::PathBeside(folder.filePath(QStringLiteral("schemes.db")));
+}
+
 /// A scheme database with its history attached, as a writing program has them.
 struct Writer
 {
     explicit Writer(const QTemporaryDir& folder)
-        : strPath(folder.filePath(SchemeHistoryFile::FileName()))
+        : strPath(HistoryPath(folder))
         , database(folder.filePath(QStringLiteral("schemes.db")))
         , history(database.Handle(), SchemeHistoryFile::Place::Attached)
         , attached(history.Attach(strPath))
@@ -296,7 +301,7 @@ void SchemeHistoryFileTest::recordsThatAreStillToldOfStay()
 
 void SchemeHistoryFileTest::aFileThatIsNoHistoryIsNotAttached()
 {
-    QFile file(m_folder->filePath(SchemeHistoryFile::FileName()));
+    QFile file(HistoryPath(*m_folder));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(5000, 'x'));
     file.close();
@@ -323,7 +328,7 @@ void SchemeHistoryFileTest::aHistoryOfALaterVersionIsNotAttached()
 
 void SchemeHistoryFileTest::aFolderInItsPlaceIsNotAttached()
 {
-    QVERIFY(QDir(m_folder->path()).mkdir(SchemeHistoryFile::FileName()));
+    QVERIFY(QDir().mkdir(HistoryPath(*m_folder)));
     QVERIFY(!Writer(*m_folder).attached);
 }
 

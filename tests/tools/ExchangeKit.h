@@ -64,8 +64,7 @@ public:
     }
     QList<SchemeHistoryEntry> History() const
     {
-        RawDatabase database(
-            QFileInfo(m_data.Database()).dir().absoluteFilePath(SchemeHistoryFile::FileName()));
+        RawDatabase database(SchemeHistoryFile::PathBeside(m_data.Database()));
         return SchemeHistoryFile(database.Handle(), SchemeHistoryFile::Place::Main)
             .Entries(100)
             .value_or(QList<SchemeHistoryEntry>());
