@@ -387,7 +387,8 @@ void AlarmRecordsTest::theWeekPlanOfADayIsAMetaTypeByName()
 void AlarmRecordsTest::aDefaultSchemeInAMapTakesAtMostTwoHundredBytes()
 {
     constexpr int count = 20000;
-    constexpr size_t most = 200;
+    // A text and a list have one word in Qt 5 and three in Qt 6.
+    constexpr size_t most = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? 200 : 256;
     const AlarmInfo first; // makes the shared block
     AlarmInfoMap map;
     const std::optional<size_t> before = HeapInUse();
