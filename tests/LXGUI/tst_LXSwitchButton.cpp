@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QCursor>
 #include <QProxyStyle>
 #include <QtTest>
 
@@ -301,6 +302,7 @@ private Q_SLOTS:
 private:
     void ShowAndActivate()
     {
+        m_button->move(QCursor::pos() + QPoint(100, 100)); // not under the pointer, where it looks different
         m_button->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_button.get()));
         m_button->activateWindow();
