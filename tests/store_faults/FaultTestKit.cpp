@@ -17,6 +17,12 @@ int OnOpen(sqlite3* pDatabase, char**, const void*)
     return SQLITE_OK;
 }
 
+QString HistoryPath()
+{
+    return SchemeHistoryFile::PathBeside(
+        QDir(QGetDatabaseDirPath()).filePath(QStringLiteral("AlarmScheme.db")));
+}
+
 AlarmSourceKey Door(int iDoor)
 {
     return AlarmSourceKey{EventSource::Door(1, iDoor), 3};
@@ -97,6 +103,28 @@ QString FaultTestKit::IsTornBetween(const SchemeChange& change)
     return !wrong.isEmpty() || map == change.before || map == change.stored
                ? wrong
                : QStringLiteral("neither the old nor the new schemes");
+}
+
+QString FaultTestKit::EndOfHistoryDiffers(const AlarmInfoMap& stored)
+{
+    RawDatabase database(HistoryPath());
+    const QString sound = database.Value(QStringLiteral("pragma integrity_check"));
+    if (sound != QLatin1String("ok"))
+        return QStringLiteral("the history: ") + sound;
+    SchemeHistoryFile history(database.Handle(), SchemeHistoryFile::Place::Main);
+    return history.State() == stored ? QString()
+                                     : QStringLiteral("the history does not end with what is stored");
+}
+
+QString FaultTestKit::HistoryDiffers(const AlarmInfoMap& stored)
+{
+    const QString wrong = EndOfHistoryDiffers(stored);
+    const QString outside = RawDatabase(HistoryPath())
+                                .Value(QStringLiteral("select count(*) from Entries where Kind = %1")
+                                           .arg(static_cast<int>(SchemeHistoryKind::Outside)));
+    return !wrong.isEmpty() || outside == QLatin1String("0")
+               ? wrong
+               : QStringLiteral("a save without its step in the history");
 }
 
 void FaultTestKit::ChangeForRound(AlarmInfoMap& map, int iClient, int iRound)

@@ -34,6 +34,13 @@ QString Differs(const AlarmInfoMap& expected);
 /// Empty when it is sound and holds exactly the one or exactly the other schemes of a change.
 QString IsTornBetween(const SchemeChange& change);
 
+/// Empty when the history beside the file is sound and ends with exactly these schemes; otherwise what is
+/// wrong.
+QString EndOfHistoryDiffers(const AlarmInfoMap& stored);
+/// The same, and it tells of nobody from outside: schemes and history have reached the disk together, or not
+/// at all.
+QString HistoryDiffers(const AlarmInfoMap& stored);
+
 /// What one of several clients does in a round: a scheme that only it changes, and a new one.
 void ChangeForRound(AlarmInfoMap& map, int iClient, int iRound);
 /// Empty when every change of these clients is there.

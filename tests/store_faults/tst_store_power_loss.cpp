@@ -173,6 +173,9 @@ void StorePowerLossTest::everyMomentOfASaveLeavesTheOldOrTheNewSchemes()
         if (!isNew && map != change.before)
             return QStringLiteral("neither the old nor the new schemes");
         ++found[isNew ? 1 : 0];
+        wrong = FaultTestKit::HistoryDiffers(map);
+        if (!wrong.isEmpty())
+            return wrong;
         return isNew || done < reported ? QString() : QStringLiteral("a reported success is lost");
     });
     QVERIFY(found[0] > 0 && found[1] > 0);

@@ -120,6 +120,10 @@ void StoreProcessesTest::theFileIsOldOrNewWhereverTheProcessEnds()
         const QString wrong = victim.HasSaved() ? FaultTestKit::Differs(m_change.stored)
                                                 : FaultTestKit::IsTornBetween(m_change);
         QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("operation %1: %2").arg(at).arg(wrong)));
+        AlarmInfoMap stored;
+        QCOMPARE(FaultTestKit::Read(stored), QString());
+        const QString untold = FaultTestKit::HistoryDiffers(stored);
+        QVERIFY2(untold.isEmpty(), qPrintable(QStringLiteral("operation %1: %2").arg(at).arg(untold)));
         if (code == 0)
             break;
         ++ended;
