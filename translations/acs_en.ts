@@ -22,6 +22,20 @@
         <source>Copy to</source>
         <translation>Copy to</translation>
     </message>
+    <message numerus="yes">
+        <source>Copy to %n Door(s)</source>
+        <translation>
+            <numerusform>Copy to %n Door</numerusform>
+            <numerusform>Copy to %n Doors</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy to %n Alarm Input(s)</source>
+        <translation>
+            <numerusform>Copy to %n Alarm Input</numerusform>
+            <numerusform>Copy to %n Alarm Inputs</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ACSEventNotifyEditor</name>
@@ -116,6 +130,124 @@
         <source>alarm scheme on</source>
         <translation>alarm scheme on</translation>
     </message>
+    <message>
+        <source>Select a door or a device on the left to edit its alarm schemes.</source>
+        <translation>Select a door or a device on the left to edit its alarm schemes.</translation>
+    </message>
+    <message>
+        <source>Select an event to edit its alarm scheme.</source>
+        <translation>Select an event to edit its alarm scheme.</translation>
+    </message>
+    <message>
+        <source>This device has no alarm inputs.</source>
+        <translation>This device has no alarm inputs.</translation>
+    </message>
+    <message>
+        <source>Select an alarm input to edit its alarm scheme.</source>
+        <translation>Select an alarm input to edit its alarm scheme.</translation>
+    </message>
+</context>
+<context>
+    <name>AlarmSchemeReadOutcome</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>There is no file &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file.</source>
+        <translation>&quot;%1&quot; is no file.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened for reading. Check the rights on it and on its folder.</source>
+        <translation>&quot;%1&quot; cannot be opened for reading. Check the rights on it and on its folder.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no database.</source>
+        <translation>&quot;%1&quot; is no database.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no alarm schemes.</source>
+        <translation>&quot;%1&quot; holds no alarm schemes.</translation>
+    </message>
+    <message>
+        <source>A write into &quot;%1&quot; was cut off and has left a journal beside it, which only a program that may write can take back. Start the client once, then try again.</source>
+        <translation>A write into &quot;%1&quot; was cut off and has left a journal beside it, which only a program that may write can take back. Start the client once, then try again.</translation>
+    </message>
+    <message>
+        <source>Another program is using &quot;%1&quot;. Try again when it has finished.</source>
+        <translation>Another program is using &quot;%1&quot;. Try again when it has finished.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged. Restore a copy of it.</source>
+        <translation>&quot;%1&quot; is damaged. Restore a copy of it.</translation>
+    </message>
+    <message>
+        <source>The reading of &quot;%1&quot; was stopped.</source>
+        <translation>The reading of &quot;%1&quot; was stopped.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2</source>
+        <translation>&quot;%1&quot; could not be read: %2</translation>
+    </message>
+</context>
+<context>
+    <name>BackupCommand</name>
+    <message>
+        <source>Copies the database.</source>
+        <translation>Copies the database.</translation>
+    </message>
+    <message>
+        <source>[--output FILE] [options]</source>
+        <translation>[--output FILE] [options]</translation>
+    </message>
+    <message>
+        <source>File to make; without it the copy goes to the folder &quot;backups&quot; beside the database, where the last %1 are kept.</source>
+        <translation>File to make; without it the copy goes to the folder &quot;backups&quot; beside the database, where the last %1 are kept.</translation>
+    </message>
+    <message>
+        <source>There is a file &quot;%1&quot; already.</source>
+        <translation>There is a file &quot;%1&quot; already.</translation>
+    </message>
+    <message>
+        <source>The backup could not be made: %1</source>
+        <translation>The backup could not be made: %1</translation>
+    </message>
+    <message>
+        <source>Schemes: %1, copied to %2</source>
+        <translation>Schemes: %1, copied to %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckCommand</name>
+    <message>
+        <source>Finds what cannot be meant: schemes that never act, links to nothing, impossible times.</source>
+        <translation>Finds what cannot be meant: schemes that never act, links to nothing, impossible times.</translation>
+    </message>
+    <message>
+        <source>[--silence FILE] [options]</source>
+        <translation>[--silence FILE] [options]</translation>
+    </message>
+    <message>
+        <source>Leaves out the findings whose codes stand in this file.</source>
+        <translation>Leaves out the findings whose codes stand in this file.</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Checking</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3</source>
+        <comment>severity, code, place</comment>
+        <translation>%1 %2: %3</translation>
+    </message>
+    <message>
+        <source>No site file: sources, links, doors and devices were not looked at.</source>
+        <translation>No site file: sources, links, doors and devices were not looked at.</translation>
+    </message>
+    <message>
+        <source>Schemes: %1, errors: %2, warnings: %3, information: %4, silenced: %5</source>
+        <translation>Schemes: %1, errors: %2, warnings: %3, information: %4, silenced: %5</translation>
+    </message>
 </context>
 <context>
     <name>ClientApplication</name>
@@ -130,6 +262,10 @@
     <message>
         <source>Site file %1</source>
         <translation>Site file %1</translation>
+    </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash: %1.</source>
+        <translation>Unsaved changes cannot be kept against a crash: %1.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +328,13 @@
     </message>
 </context>
 <context>
+    <name>CommandInput</name>
+    <message>
+        <source>Reading the schemes</source>
+        <translation>Reading the schemes</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Usage: acs-scheme &lt;command&gt; [options]</source>
@@ -219,6 +362,633 @@
     </message>
 </context>
 <context>
+    <name>CommandOptions</name>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Shows this help.</translation>
+    </message>
+    <message>
+        <source>How the result is written; text unless it is said here.</source>
+        <translation>How the result is written; text unless it is said here.</translation>
+    </message>
+    <message>
+        <source>Works on the data of this directory instead of the client&apos;s own.</source>
+        <translation>Works on the data of this directory instead of the client&apos;s own.</translation>
+    </message>
+    <message>
+        <source>Works on this database file.</source>
+        <translation>Works on this database file.</translation>
+    </message>
+    <message>
+        <source>Takes devices and names from this site file.</source>
+        <translation>Takes devices and names from this site file.</translation>
+    </message>
+    <message>
+        <source>Usage: %1 %2</source>
+        <translation>Usage: %1 %2</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Unexpected argument &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>An argument is missing; the usage is &quot;%1&quot;.</source>
+        <translation>An argument is missing; the usage is &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value.</source>
+        <translation>--%1 needs a value.</translation>
+    </message>
+    <message>
+        <source>--format takes &quot;text&quot; or &quot;json&quot;.</source>
+        <translation>--format takes &quot;text&quot; or &quot;json&quot;.</translation>
+    </message>
+    <message>
+        <source>--database and --data-dir exclude each other.</source>
+        <translation>--database and --data-dir exclude each other.</translation>
+    </message>
+</context>
+<context>
+    <name>CoveragePage</name>
+    <message>
+        <source>Coverage</source>
+        <translation>Coverage</translation>
+    </message>
+    <message>
+        <source>When is the site watched, and where are the gaps?</source>
+        <translation>When is the site watched, and where are the gaps?</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Device</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>&amp;Category</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>Armed schemes over the week</source>
+        <translation>Armed schemes over the week</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Findings</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation>All devices</translation>
+    </message>
+    <message>
+        <source>All categories</source>
+        <translation>All categories</translation>
+    </message>
+    <message>
+        <source>Looking through the schemes...</source>
+        <translation>Looking through the schemes...</translation>
+    </message>
+    <message>
+        <source>No scheme is switched on here; nothing is ever armed.</source>
+        <translation>No scheme is switched on here; nothing is ever armed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
+        <translation>
+            <numerusform>%n scheme switched on. The brighter a half hour, the more of them are armed.</numerusform>
+            <numerusform>%n schemes switched on. The brighter a half hour, the more of them are armed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing to complain of.</source>
+        <translation>Nothing to complain of.</translation>
+    </message>
+    <message>
+        <source>%1 errors, %2 warnings, %3 notes</source>
+        <translation>%1 errors, %2 warnings, %3 notes</translation>
+    </message>
+</context>
+<context>
+    <name>DiffCommand</name>
+    <message>
+        <source>Tells what differs between two databases, backups or exports.</source>
+        <translation>Tells what differs between two databases, backups or exports.</translation>
+    </message>
+    <message>
+        <source>A B [options]</source>
+        <translation>A B [options]</translation>
+    </message>
+    <message>
+        <source>Reading the first file</source>
+        <translation>Reading the first file</translation>
+    </message>
+    <message>
+        <source>Reading the second file</source>
+        <translation>Reading the second file</translation>
+    </message>
+    <message>
+        <source>Comparing the schemes</source>
+        <translation>Comparing the schemes</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceText</name>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>empty</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3</source>
+        <comment>field, before, after</comment>
+        <translation>%1: %2 -&gt; %3</translation>
+    </message>
+    <message>
+        <source>added    %1</source>
+        <translation>added    %1</translation>
+    </message>
+    <message>
+        <source>removed  %1</source>
+        <translation>removed  %1</translation>
+    </message>
+    <message>
+        <source>changed  %1</source>
+        <translation>changed  %1</translation>
+    </message>
+    <message>
+        <source>Added: %1, removed: %2, changed: %3, equal: %4</source>
+        <translation>Added: %1, removed: %2, changed: %3, equal: %4</translation>
+    </message>
+</context>
+<context>
+    <name>DraftFile</name>
+    <message>
+        <source>it is no draft</source>
+        <translation>it is no draft</translation>
+    </message>
+    <message>
+        <source>another version of the program has written it</source>
+        <translation>another version of the program has written it</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>it is damaged</translation>
+    </message>
+</context>
+<context>
+    <name>DraftKeeper</name>
+    <message>
+        <source>there is no place for it in %1</source>
+        <translation>there is no place for it in %1</translation>
+    </message>
+</context>
+<context>
+    <name>DraftOffer</name>
+    <message>
+        <source>Unsaved changes were found</source>
+        <translation>Unsaved changes were found</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>the page cannot use it</source>
+        <translation>the page cannot use it</translation>
+    </message>
+    <message>
+        <source>The changes are stored already; there was nothing to restore.</source>
+        <translation>The changes are stored already; there was nothing to restore.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) restored; they are not saved yet.</source>
+        <translation>
+            <numerusform>%n scheme restored; it is not saved yet.</numerusform>
+            <numerusform>%n schemes restored; they are not saved yet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unsaved changes of an earlier run cannot be restored: %1. The file is kept as %2.</source>
+        <translation>Unsaved changes of an earlier run cannot be restored: %1. The file is kept as %2.</translation>
+    </message>
+    <message>
+        <source>%1: the program ended before changes were saved. They were kept on %2.</source>
+        <translation>%1: the program ended before changes were saved. They were kept on %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: the program ended before changes of %n scheme(s) were saved. They were kept on %2.</source>
+        <translation>
+            <numerusform>%1: the program ended before changes of %n scheme were saved. They were kept on %2.</numerusform>
+            <numerusform>%1: the program ended before changes of %n schemes were saved. They were kept on %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore them? Nothing is saved by that. &quot;Later&quot; asks again at the next start.</source>
+        <translation>Restore them? Nothing is saved by that. &quot;Later&quot; asks again at the next start.</translation>
+    </message>
+</context>
+<context>
+    <name>EditActions</name>
+    <message>
+        <source>typing</source>
+        <translation>typing</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Undo %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Redo %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventCategories</name>
+    <message>
+        <source>Alarm events</source>
+        <translation>Alarm events</translation>
+    </message>
+    <message>
+        <source>Abnormal events</source>
+        <translation>Abnormal events</translation>
+    </message>
+    <message>
+        <source>Normal events</source>
+        <translation>Normal events</translation>
+    </message>
+    <message>
+        <source>Alarm inputs</source>
+        <translation>Alarm inputs</translation>
+    </message>
+    <message>
+        <source>Unknown events</source>
+        <translation>Unknown events</translation>
+    </message>
+</context>
+<context>
+    <name>ExplainCommand</name>
+    <message>
+        <source>Tells what would happen if an event came at a time.</source>
+        <translation>Tells what would happen if an event came at a time.</translation>
+    </message>
+    <message>
+        <source>--source S --event TYPE --at TIME [--zone ID] [options]</source>
+        <translation>--source S --event TYPE --at TIME [--zone ID] [options]</translation>
+    </message>
+    <message>
+        <source>The time by the wall clock, like 2026-11-23T08:30.</source>
+        <translation>The time by the wall clock, like 2026-11-23T08:30.</translation>
+    </message>
+    <message>
+        <source>The time zone of the clock, like Europe/Rome; the computer&apos;s unless it is said here.</source>
+        <translation>The time zone of the clock, like Europe/Rome; the computer&apos;s unless it is said here.</translation>
+    </message>
+    <message>
+        <source>--%1 is missing.</source>
+        <translation>--%1 is missing.</translation>
+    </message>
+    <message>
+        <source>The clock shows this time twice on that day; this is about the first. An offset, like &quot;+01:00&quot; behind the time, tells them apart.</source>
+        <translation>The clock shows this time twice on that day; this is about the first. An offset, like &quot;+01:00&quot; behind the time, tells them apart.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>source and event, time</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>A device has one scheme for this event, whichever door it comes from.</source>
+        <translation>A device has one scheme for this event, whichever door it comes from.</translation>
+    </message>
+    <message>
+        <source>It does nothing.</source>
+        <translation>It does nothing.</translation>
+    </message>
+    <message>
+        <source>It does this:</source>
+        <translation>It does this:</translation>
+    </message>
+    <message>
+        <source>The next change is at %1.</source>
+        <translation>The next change is at %1.</translation>
+    </message>
+    <message>
+        <source>Nothing changes with time.</source>
+        <translation>Nothing changes with time.</translation>
+    </message>
+</context>
+<context>
+    <name>ExplainPage</name>
+    <message>
+        <source>Explain</source>
+        <translation>Explain</translation>
+    </message>
+    <message>
+        <source>What would happen if this event came at that time?</source>
+        <translation>What would happen if this event came at that time?</translation>
+    </message>
+    <message>
+        <source>&amp;Source</source>
+        <translation>&amp;Source</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>&amp;Event</source>
+        <translation>&amp;Event</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Time</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>&amp;Now</source>
+        <translation>&amp;Now</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Armed time of the day</source>
+        <translation>Armed time of the day</translation>
+    </message>
+    <message>
+        <source>&amp;Reactions</source>
+        <translation>&amp;Reactions</translation>
+    </message>
+    <message>
+        <source>Reactions</source>
+        <translation>Reactions</translation>
+    </message>
+    <message>
+        <source>Device/door or device/alarm input</source>
+        <translation>Device/door or device/alarm input</translation>
+    </message>
+    <message>
+        <source>The site has no devices. Open a site with devices first.</source>
+        <translation>The site has no devices. Open a site with devices first.</translation>
+    </message>
+    <message>
+        <source>Pick the source that the event comes from.</source>
+        <translation>Pick the source that the event comes from.</translation>
+    </message>
+    <message>
+        <source>Pick the event.</source>
+        <translation>Pick the event.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>day, armed time</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>A device has one scheme for this event, whichever door it comes from.</source>
+        <translation>A device has one scheme for this event, whichever door it comes from.</translation>
+    </message>
+    <message>
+        <source>The next change is at %1.</source>
+        <translation>The next change is at %1.</translation>
+    </message>
+    <message>
+        <source>Nothing changes with time.</source>
+        <translation>Nothing changes with time.</translation>
+    </message>
+    <message>
+        <source>&amp;Reactions while it is armed</source>
+        <translation>&amp;Reactions while it is armed</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCommand</name>
+    <message>
+        <source>Writes the schemes as a JSON text.</source>
+        <translation>Writes the schemes as a JSON text.</translation>
+    </message>
+    <message>
+        <source>[--output FILE] [options]</source>
+        <translation>[--output FILE] [options]</translation>
+    </message>
+    <message>
+        <source>File to write; without it the text goes to the standard output.</source>
+        <translation>File to write; without it the text goes to the standard output.</translation>
+    </message>
+    <message>
+        <source>Writing the schemes</source>
+        <translation>Writing the schemes</translation>
+    </message>
+    <message>
+        <source>Schemes written: %1</source>
+        <translation>Schemes written: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportSiteCommand</name>
+    <message>
+        <source>Writes the client&apos;s site as a table or a site file.</source>
+        <translation>Writes the client&apos;s site as a table or a site file.</translation>
+    </message>
+    <message>
+        <source>[--format csv|json] [--output FILE] [--data-dir DIR | --site FILE]</source>
+        <translation>[--format csv|json] [--output FILE] [--data-dir DIR | --site FILE]</translation>
+    </message>
+    <message>
+        <source>The form; without it the one that goes with the file&apos;s name, or csv.</source>
+        <translation>The form; without it the one that goes with the file&apos;s name, or csv.</translation>
+    </message>
+    <message>
+        <source>File to write; without it the site goes to the standard output.</source>
+        <translation>File to write; without it the site goes to the standard output.</translation>
+    </message>
+    <message>
+        <source>--format takes &quot;csv&quot; or &quot;json&quot;.</source>
+        <translation>--format takes &quot;csv&quot; or &quot;json&quot;.</translation>
+    </message>
+    <message>
+        <source>--output names the site file itself.</source>
+        <translation>--output names the site file itself.</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>source, event</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>place, day of the week</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>The scheme is switched on but never armed.</source>
+        <translation>The scheme is switched on but never armed.</translation>
+    </message>
+    <message>
+        <source>The scheme is armed but does nothing.</source>
+        <translation>The scheme is armed but does nothing.</translation>
+    </message>
+    <message>
+        <source>The site has no such event source.</source>
+        <translation>The site has no such event source.</translation>
+    </message>
+    <message>
+        <source>The linked output %1 is not part of the site.</source>
+        <translation>The linked output %1 is not part of the site.</translation>
+    </message>
+    <message>
+        <source>The linked door %1 is not part of the site.</source>
+        <translation>The linked door %1 is not part of the site.</translation>
+    </message>
+    <message>
+        <source>The linked video channel %1 is not part of the site.</source>
+        <translation>The linked video channel %1 is not part of the site.</translation>
+    </message>
+    <message>
+        <source>The output %1 stays on for %2 s, which is not within 5 to 43200 s.</source>
+        <translation>The output %1 stays on for %2 s, which is not within 5 to 43200 s.</translation>
+    </message>
+    <message>
+        <source>The day has %1 time regions; six is the most.</source>
+        <translation>The day has %1 time regions; six is the most.</translation>
+    </message>
+    <message>
+        <source>Time regions of the day overlap.</source>
+        <translation>Time regions of the day overlap.</translation>
+    </message>
+    <message>
+        <source>Time regions of the day touch each other.</source>
+        <translation>Time regions of the day touch each other.</translation>
+    </message>
+    <message>
+        <source>A time region of the day ends before it begins or lies outside the day.</source>
+        <translation>A time region of the day ends before it begins or lies outside the day.</translation>
+    </message>
+    <message>
+        <source>No scheme of this door is switched on.</source>
+        <translation>No scheme of this door is switched on.</translation>
+    </message>
+    <message>
+        <source>The scheme waits for events of a device that is offline.</source>
+        <translation>The scheme waits for events of a device that is offline.</translation>
+    </message>
+    <message>
+        <source>Paint the hours in which it is to be armed, or switch it off.</source>
+        <translation>Paint the hours in which it is to be armed, or switch it off.</translation>
+    </message>
+    <message>
+        <source>Choose a sound, a mail or an output, or switch the scheme off.</source>
+        <translation>Choose a sound, a mail or an output, or switch the scheme off.</translation>
+    </message>
+    <message>
+        <source>Delete the scheme, or bring the device back into the site.</source>
+        <translation>Delete the scheme, or bring the device back into the site.</translation>
+    </message>
+    <message>
+        <source>Remove the link, or bring the device back into the site.</source>
+        <translation>Remove the link, or bring the device back into the site.</translation>
+    </message>
+    <message>
+        <source>Set a time from 5 to 43200 s.</source>
+        <translation>Set a time from 5 to 43200 s.</translation>
+    </message>
+    <message>
+        <source>Open the day&apos;s details and confirm them; regions that belong together are joined.</source>
+        <translation>Open the day&apos;s details and confirm them; regions that belong together are joined.</translation>
+    </message>
+    <message>
+        <source>Set the day&apos;s hours anew.</source>
+        <translation>Set the day&apos;s hours anew.</translation>
+    </message>
+    <message>
+        <source>Switch on a scheme for the door if its events matter.</source>
+        <translation>Switch on a scheme for the door if its events matter.</translation>
+    </message>
+    <message>
+        <source>Look after the device; until it answers, nothing is reported.</source>
+        <translation>Look after the device; until it answers, nothing is reported.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>Severity</source>
+        <translation>Severity</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Where</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Finding</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>What to do</translation>
+    </message>
+</context>
+<context>
     <name>GroupTreeCtrl</name>
     <message>
         <source>Search devices</source>
@@ -230,6 +1000,142 @@
     </message>
 </context>
 <context>
+    <name>HistoryCommand</name>
+    <message>
+        <source>Tells who changed what and when.</source>
+        <translation>Tells who changed what and when.</translation>
+    </message>
+    <message>
+        <source>[STEP] [--limit N] [options]</source>
+        <translation>[STEP] [--limit N] [options]</translation>
+    </message>
+    <message>
+        <source>Only so many of the newest steps.</source>
+        <translation>Only so many of the newest steps.</translation>
+    </message>
+    <message>
+        <source>--limit takes a whole number from 1.</source>
+        <translation>--limit takes a whole number from 1.</translation>
+    </message>
+    <message>
+        <source>There is no step %1.</source>
+        <translation>There is no step %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>When</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Schemes</source>
+        <translation>Schemes</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>What was changed, when and by whom?</source>
+        <translation>What was changed, when and by whom?</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>&amp;Take back...</source>
+        <translation>&amp;Take back...</translation>
+    </message>
+    <message>
+        <source>Makes the schemes of this step what they were before it</source>
+        <translation>Makes the schemes of this step what they were before it</translation>
+    </message>
+    <message>
+        <source>Changed schemes</source>
+        <translation>Changed schemes</translation>
+    </message>
+    <message>
+        <source>Pick a step to see what it has changed.</source>
+        <translation>Pick a step to see what it has changed.</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Reading...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) changed:</source>
+        <translation>
+            <numerusform>%n scheme changed:</numerusform>
+            <numerusform>%n schemes changed:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 schemes changed, the first %2 of them:</source>
+        <translation>%1 schemes changed, the first %2 of them:</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>deleted</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>scheme, what has changed</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Take a step back</source>
+        <translation>Take a step back</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make the %n scheme(s) of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</source>
+        <translation>
+            <numerusform>Make the %n scheme of the step of %1 what it was before it? A scheme that has changed since stays as it is. The pages are loaded anew.</numerusform>
+            <numerusform>Make the %n schemes of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>HistoryText</name>
+    <message>
+        <source>&quot;%1&quot; is no number of a step.</source>
+        <translation>&quot;%1&quot; is no number of a step.</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3, %4, schemes: %5</source>
+        <comment>number, time, who, what</comment>
+        <translation>%1  %2  %3, %4, schemes: %5</translation>
+    </message>
+</context>
+<context>
     <name>HomePage</name>
     <message>
         <source>Modules</source>
@@ -238,6 +1144,102 @@
     <message>
         <source>No module is loaded; put a module file into the &quot;modules&quot; folder beside the program and start again.</source>
         <translation>No module is loaded; put a module file into the &quot;modules&quot; folder beside the program and start again.</translation>
+    </message>
+    <message>
+        <source>The site has no devices; describe them in %1, or name another file with --site, and start again.</source>
+        <translation>The site has no devices; describe them in %1, or name another file with --site, and start again.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportCommand</name>
+    <message>
+        <source>Brings the schemes of a JSON text into the database.</source>
+        <translation>Brings the schemes of a JSON text into the database.</translation>
+    </message>
+    <message>
+        <source>FILE --merge|--replace [--dry-run] [options]</source>
+        <translation>FILE --merge|--replace [--dry-run] [options]</translation>
+    </message>
+    <message>
+        <source>The listed schemes replace those of the same source and event, all others stay.</source>
+        <translation>The listed schemes replace those of the same source and event, all others stay.</translation>
+    </message>
+    <message>
+        <source>Afterwards there are exactly the listed schemes; all others are deleted.</source>
+        <translation>Afterwards there are exactly the listed schemes; all others are deleted.</translation>
+    </message>
+    <message>
+        <source>Changes nothing and tells what would change; without --merge or --replace, what either would.</source>
+        <translation>Changes nothing and tells what would change; without --merge or --replace, what either would.</translation>
+    </message>
+    <message>
+        <source>--merge and --replace exclude each other.</source>
+        <translation>--merge and --replace exclude each other.</translation>
+    </message>
+    <message>
+        <source>Say whether the other schemes stay, --merge, or are deleted, --replace.</source>
+        <translation>Say whether the other schemes stay, --merge, or are deleted, --replace.</translation>
+    </message>
+    <message>
+        <source>With --merge:</source>
+        <translation>With --merge:</translation>
+    </message>
+    <message>
+        <source>With --replace:</source>
+        <translation>With --replace:</translation>
+    </message>
+    <message>
+        <source>Reading the text</source>
+        <translation>Reading the text</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nothing was changed.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportSiteCommand</name>
+    <message>
+        <source>Brings the devices of a table or site file into the client&apos;s site.</source>
+        <translation>Brings the devices of a table or site file into the client&apos;s site.</translation>
+    </message>
+    <message>
+        <source>FILE [--dry-run] [--data-dir DIR | --site FILE] [options]</source>
+        <translation>FILE [--dry-run] [--data-dir DIR | --site FILE] [options]</translation>
+    </message>
+    <message>
+        <source>Changes nothing and tells what would change.</source>
+        <translation>Changes nothing and tells what would change.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more line(s) are wrong.</source>
+        <translation>
+            <numerusform>%n more line is wrong.</numerusform>
+            <numerusform>%n more lines are wrong.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The old site is kept in %1.</source>
+        <translation>The old site is kept in %1.</translation>
+    </message>
+</context>
+<context>
+    <name>InsightPages</name>
+    <message>
+        <source>&amp;Explain...</source>
+        <translation>&amp;Explain...</translation>
+    </message>
+    <message>
+        <source>&amp;Coverage...</source>
+        <translation>&amp;Coverage...</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;History...</translation>
     </message>
 </context>
 <context>
@@ -282,6 +1284,33 @@
     </message>
 </context>
 <context>
+    <name>ListCommand</name>
+    <message>
+        <source>Lists the schemes.</source>
+        <translation>Lists the schemes.</translation>
+    </message>
+    <message>
+        <source>[--source S] [--event TYPE] [--enabled] [options]</source>
+        <translation>[--source S] [--event TYPE] [--enabled] [options]</translation>
+    </message>
+    <message>
+        <source>Only the schemes that are switched on.</source>
+        <translation>Only the schemes that are switched on.</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>Schemes: %1, switched on: %2</source>
+        <translation>Schemes: %1, switched on: %2</translation>
+    </message>
+</context>
+<context>
     <name>MailCheck</name>
     <message>
         <source>Enter a mail server, or switch mail off.</source>
@@ -306,6 +1335,113 @@
     <message>
         <source>The sender must be one mail address, like guard@example.com.</source>
         <translation>The sender must be one mail address, like guard@example.com.</translation>
+    </message>
+    <message>
+        <source>The password is too long or holds control characters.</source>
+        <translation>The password is too long or holds control characters.</translation>
+    </message>
+    <message>
+        <source>Enter the password of the user, or leave the user empty.</source>
+        <translation>Enter the password of the user, or leave the user empty.</translation>
+    </message>
+    <message>
+        <source>Enter at least one address that gets the mail.</source>
+        <translation>Enter at least one address that gets the mail.</translation>
+    </message>
+    <message>
+        <source>A server takes %1 recipients at most.</source>
+        <translation>A server takes %1 recipients at most.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no mail address like guard@example.com.</source>
+        <translation>&quot;%1&quot; is no mail address like guard@example.com.</translation>
+    </message>
+    <message>
+        <source>The name of the certificate file is too long or holds control characters.</source>
+        <translation>The name of the certificate file is too long or holds control characters.</translation>
+    </message>
+</context>
+<context>
+    <name>MailOutcome</name>
+    <message>
+        <source>The server says: %1</source>
+        <translation>The server says: %1</translation>
+    </message>
+    <message>
+        <source>%1 has taken the test mail for %2. Look into the mailbox; it can take a minute.</source>
+        <translation>%1 has taken the test mail for %2. Look into the mailbox; it can take a minute.</translation>
+    </message>
+    <message>
+        <source>%1 has taken the test mail, but offers no login: user and password were not used.</source>
+        <translation>%1 has taken the test mail, but offers no login: user and password were not used.</translation>
+    </message>
+    <message>
+        <source>The test was stopped.</source>
+        <translation>The test was stopped.</translation>
+    </message>
+    <message>
+        <source>The address %1 cannot be used. Enter it like guard@example.com.</source>
+        <translation>The address %1 cannot be used. Enter it like guard@example.com.</translation>
+    </message>
+    <message>
+        <source>The server &quot;%1&quot; was not found. Check its name and the network connection.</source>
+        <translation>The server &quot;%1&quot; was not found. Check its name and the network connection.</translation>
+    </message>
+    <message>
+        <source>Nothing answers on port %1 of %2. Check server and port; as a rule it is 587 with STARTTLS, 465 with TLS and 25 without encryption. A firewall can be in the way, too.</source>
+        <translation>Nothing answers on port %1 of %2. Check server and port; as a rule it is 587 with STARTTLS, 465 with TLS and 25 without encryption. A firewall can be in the way, too.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on port %2. Check port and encryption; a firewall can be in the way, too.</source>
+        <translation>%1 does not answer on port %2. Check port and encryption; a firewall can be in the way, too.</translation>
+    </message>
+    <message>
+        <source>What answers on port %1 of %2 takes no mail. Check server, port and encryption.</source>
+        <translation>What answers on port %1 of %2 takes no mail. Check server, port and encryption.</translation>
+    </message>
+    <message>
+        <source>%1 offers no STARTTLS on port %2. Choose TLS with the port that goes with it, 465 as a rule.</source>
+        <translation>%1 offers no STARTTLS on port %2. Choose TLS with the port that goes with it, 465 as a rule.</translation>
+    </message>
+    <message>
+        <source>No encrypted connection to port %1 of %2. Check the encryption: TLS goes with port 465 as a rule, STARTTLS with 587 and 25.</source>
+        <translation>No encrypted connection to port %1 of %2. Check the encryption: TLS goes with port 465 as a rule, STARTTLS with 587 and 25.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not trusted, so nothing was sent. Enter the server by the name that its certificate carries, or name the certificate file of your own authority.</source>
+        <translation>The certificate of %1 is not trusted, so nothing was sent. Enter the server by the name that its certificate carries, or name the certificate file of your own authority.</translation>
+    </message>
+    <message>
+        <source>The certificate file %1 cannot be used. Choose a file with certificates in the PEM form, or leave the field empty.</source>
+        <translation>The certificate file %1 cannot be used. Choose a file with certificates in the PEM form, or leave the field empty.</translation>
+    </message>
+    <message>
+        <source>%1 offers no login that can be used. Many servers offer it with encryption only; choose STARTTLS or TLS, or leave user and password empty.</source>
+        <translation>%1 offers no login that can be used. Many servers offer it with encryption only; choose STARTTLS or TLS, or leave user and password empty.</translation>
+    </message>
+    <message>
+        <source>%1 refuses the user &quot;%2&quot;. Check user and password; some services want a password of its own for programs.</source>
+        <translation>%1 refuses the user &quot;%2&quot;. Check user and password; some services want a password of its own for programs.</translation>
+    </message>
+    <message>
+        <source>%1 takes no mail from %2. Check the sender; often it must be the address of the user.</source>
+        <translation>%1 takes no mail from %2. Check the sender; often it must be the address of the user.</translation>
+    </message>
+    <message>
+        <source>%1 takes no mail for %2. Check the address; mail to other places often needs user and password.</source>
+        <translation>%1 takes no mail for %2. Check the address; mail to other places often needs user and password.</translation>
+    </message>
+    <message>
+        <source>%1 refuses the mail itself. Ask the administrator of the mail server.</source>
+        <translation>%1 refuses the mail itself. Ask the administrator of the mail server.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 broke off. Check port and encryption, and try again.</source>
+        <translation>The connection to %1 broke off. Check port and encryption, and try again.</translation>
+    </message>
+    <message>
+        <source>The test mail could not be sent through %1: %2</source>
+        <translation>The test mail could not be sent through %1: %2</translation>
     </message>
 </context>
 <context>
@@ -361,6 +1497,90 @@
     <message>
         <source>New server</source>
         <translation>New server</translation>
+    </message>
+    <message>
+        <source>Mail servers</source>
+        <translation>Mail servers</translation>
+    </message>
+    <message>
+        <source>En&amp;cryption:</source>
+        <translation>En&amp;cryption:</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>Pass&amp;word:</translation>
+    </message>
+    <message>
+        <source>Without encryption anyone on the way can read the password.</source>
+        <translation>Without encryption anyone on the way can read the password.</translation>
+    </message>
+    <message>
+        <source>Recip&amp;ients:</source>
+        <translation>Recip&amp;ients:</translation>
+    </message>
+    <message>
+        <source>desk@example.com, chief@example.com</source>
+        <translation>desk@example.com, chief@example.com</translation>
+    </message>
+    <message>
+        <source>Certi&amp;ficates:</source>
+        <translation>Certi&amp;ficates:</translation>
+    </message>
+    <message>
+        <source>empty: those of the system</source>
+        <translation>empty: those of the system</translation>
+    </message>
+    <message>
+        <source>&amp;Browse …</source>
+        <translation>&amp;Browse …</translation>
+    </message>
+    <message>
+        <source>Send a &amp;test mail</source>
+        <translation>Send a &amp;test mail</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>St&amp;op</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>STARTTLS</source>
+        <translation>STARTTLS</translation>
+    </message>
+    <message>
+        <source>TLS</source>
+        <translation>TLS</translation>
+    </message>
+    <message>
+        <source>Certificate file</source>
+        <translation>Certificate file</translation>
+    </message>
+    <message>
+        <source>Certificates (*.pem *.crt *.cer);;All files (*)</source>
+        <translation>Certificates (*.pem *.crt *.cer);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Alarm schemes</source>
+        <translation>Alarm schemes</translation>
+    </message>
+    <message>
+        <source>Test mail of the alarm client</source>
+        <translation>Test mail of the alarm client</translation>
+    </message>
+    <message>
+        <source>This mail tests the mail settings of the alarm client on %1.
+If you can read it, mail about alarms will arrive here.
+</source>
+        <translation>This mail tests the mail settings of the alarm client on %1.
+If you can read it, mail about alarms will arrive here.
+</translation>
+    </message>
+    <message>
+        <source>Sending a test mail through %1 …</source>
+        <translation>Sending a test mail through %1 …</translation>
     </message>
 </context>
 <context>
@@ -418,10 +1638,6 @@
         <translation>&amp;About</translation>
     </message>
     <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Module %1: %2</source>
         <translation>Module %1: %2</translation>
     </message>
@@ -439,10 +1655,6 @@
     <message>
         <source>ACS Client</source>
         <translation>ACS Client</translation>
-    </message>
-    <message>
-        <source>%1 - ACS Client</source>
-        <translation>%1 - ACS Client</translation>
     </message>
     <message>
         <source>The language changes at the next start.</source>
@@ -474,6 +1686,57 @@ Data directory: %2</translation>
         <source>No event is selected.</source>
         <translation>No event is selected.</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>S&amp;chemes</source>
+        <translation>S&amp;chemes</translation>
+    </message>
+    <message>
+        <source>&amp;Load anew</source>
+        <translation>&amp;Load anew</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message>
+        <source>&amp;Import site…</source>
+        <translation>&amp;Import site…</translation>
+    </message>
+    <message>
+        <source>&amp;Export site…</source>
+        <translation>&amp;Export site…</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Not saved</translation>
+    </message>
+    <message>
+        <source>%1[*] - ACS Client</source>
+        <translation>%1[*] - ACS Client</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) on</source>
+        <translation>
+            <numerusform>%n scheme on</numerusform>
+            <numerusform>%n schemes on</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MakeSiteCommand</name>
@@ -494,18 +1757,6 @@ Data directory: %2</translation>
         <translation>File to write; without it the site goes to the standard output.</translation>
     </message>
     <message>
-        <source>Shows this help.</source>
-        <translation>Shows this help.</translation>
-    </message>
-    <message>
-        <source>Usage: %1 --doors N [--seed S] [--output FILE]</source>
-        <translation>Usage: %1 --doors N [--seed S] [--output FILE]</translation>
-    </message>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>Unexpected argument &quot;%1&quot;.</translation>
-    </message>
-    <message>
         <source>--doors is missing.</source>
         <translation>--doors is missing.</translation>
     </message>
@@ -518,8 +1769,51 @@ Data directory: %2</translation>
         <translation>--seed takes a whole number from 0 to 4294967295.</translation>
     </message>
     <message>
-        <source>--output takes the name of a file.</source>
-        <translation>--output takes the name of a file.</translation>
+        <source>--doors N [--seed S] [--output FILE]</source>
+        <translation>--doors N [--seed S] [--output FILE]</translation>
+    </message>
+</context>
+<context>
+    <name>MomentArgument</name>
+    <message>
+        <source>There is no time zone &quot;%1&quot;.</source>
+        <translation>There is no time zone &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date and time; they are written like 2026-11-23T08:30.</source>
+        <translation>&quot;%1&quot; is no date and time; they are written like 2026-11-23T08:30.</translation>
+    </message>
+    <message>
+        <source>The clock skips %1 in the time zone %2.</source>
+        <translation>The clock skips %1 in the time zone %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PageTabs</name>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Close %1</translation>
+    </message>
+    <message>
+        <source>● %1</source>
+        <comment>a tab with unsaved changes</comment>
+        <translation>● %1</translation>
+    </message>
+    <message>
+        <source>Changes are not saved</source>
+        <translation>Changes are not saved</translation>
+    </message>
+    <message>
+        <source>%1, not saved</source>
+        <translation>%1, not saved</translation>
     </message>
 </context>
 <context>
@@ -576,6 +1870,29 @@ Data directory: %2</translation>
         <source>the module describes no page</source>
         <translation>the module describes no page</translation>
     </message>
+    <message>
+        <source>the module states no readable platform version</source>
+        <translation>the module states no readable platform version</translation>
+    </message>
+    <message>
+        <source>the module is built for version %1 of the platform, this client has %2; it needs a build for this version</source>
+        <translation>the module is built for version %1 of the platform, this client has %2; it needs a build for this version</translation>
+    </message>
+    <message>
+        <source>the module needs version %1 of the platform, this client has %2; the client is too old</source>
+        <translation>the module needs version %1 of the platform, this client has %2; the client is too old</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressLine</name>
+    <message>
+        <source>%1: %2 %</source>
+        <translation>%1: %2 %</translation>
+    </message>
+    <message>
+        <source>%1: %2 s</source>
+        <translation>%1: %2 s</translation>
+    </message>
 </context>
 <context>
     <name>QAlarmCopyToPopup</name>
@@ -586,6 +1903,13 @@ Data directory: %2</translation>
     <message>
         <source>Copy to</source>
         <translation>Copy to</translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy to %n Target(s)</source>
+        <translation>
+            <numerusform>Copy to %n Target</numerusform>
+            <numerusform>Copy to %n Targets</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -965,6 +2289,380 @@ Data directory: %2</translation>
     </message>
 </context>
 <context>
+    <name>RestoreCommand</name>
+    <message>
+        <source>Puts a copy of a database back.</source>
+        <translation>Puts a copy of a database back.</translation>
+    </message>
+    <message>
+        <source>FILE [options]</source>
+        <translation>FILE [options]</translation>
+    </message>
+    <message>
+        <source>This is the database itself.</source>
+        <translation>This is the database itself.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>Schemes: %1</source>
+        <translation>Schemes: %1</translation>
+    </message>
+    <message>
+        <source>The damaged database is kept as %1</source>
+        <translation>The damaged database is kept as %1</translation>
+    </message>
+</context>
+<context>
+    <name>RevertCommand</name>
+    <message>
+        <source>Takes a step of the history back.</source>
+        <translation>Takes a step of the history back.</translation>
+    </message>
+    <message>
+        <source>STEP [options]</source>
+        <translation>STEP [options]</translation>
+    </message>
+    <message>
+        <source>There is no step %1.</source>
+        <translation>There is no step %1.</translation>
+    </message>
+    <message>
+        <source>Schemes taken back: %1</source>
+        <translation>Schemes taken back: %1</translation>
+    </message>
+    <message>
+        <source>Changed since, and left as they are: %1</source>
+        <translation>Changed since, and left as they are: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveIndicator</name>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Schemes saved</source>
+        <translation>Schemes saved</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeActionText</name>
+    <message>
+        <source>Change Scheme</source>
+        <translation>Change Scheme</translation>
+    </message>
+    <message>
+        <source>Switch Scheme On</source>
+        <translation>Switch Scheme On</translation>
+    </message>
+    <message>
+        <source>Switch Scheme Off</source>
+        <translation>Switch Scheme Off</translation>
+    </message>
+    <message>
+        <source>Switch Alarm Sound On</source>
+        <translation>Switch Alarm Sound On</translation>
+    </message>
+    <message>
+        <source>Switch Alarm Sound Off</source>
+        <translation>Switch Alarm Sound Off</translation>
+    </message>
+    <message>
+        <source>Switch Mail On</source>
+        <translation>Switch Mail On</translation>
+    </message>
+    <message>
+        <source>Switch Mail Off</source>
+        <translation>Switch Mail Off</translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy to %n Source(s)</source>
+        <translation>
+            <numerusform>Copy to %n Source</numerusform>
+            <numerusform>Copy to %n Sources</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore Unsaved Edits</source>
+        <translation>Restore Unsaved Edits</translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Output(s)</source>
+        <translation>
+            <numerusform>Link %n Output</numerusform>
+            <numerusform>Link %n Outputs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unlink %n Output(s)</source>
+        <translation>
+            <numerusform>Unlink %n Output</numerusform>
+            <numerusform>Unlink %n Outputs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change Outputs</source>
+        <translation>Change Outputs</translation>
+    </message>
+    <message>
+        <source>Change Output Settings</source>
+        <translation>Change Output Settings</translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %1 to %n Day(s)</source>
+        <translation>
+            <numerusform>Copy %1 to %n Day</numerusform>
+            <numerusform>Copy %1 to %n Days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Set %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set %n Day(s)</source>
+        <translation>
+            <numerusform>Set %n Day</numerusform>
+            <numerusform>Set %n Days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paint %1</source>
+        <translation>Paint %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Paint %n Day(s)</source>
+        <translation>
+            <numerusform>Paint %n Day</numerusform>
+            <numerusform>Paint %n Days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Erase %1</source>
+        <translation>Erase %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Erase %n Day(s)</source>
+        <translation>
+            <numerusform>Erase %n Day</numerusform>
+            <numerusform>Erase %n Days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Change %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Change %n Day(s)</source>
+        <translation>
+            <numerusform>Change %n Day</numerusform>
+            <numerusform>Change %n Days</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sunday</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Monday</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Tuesday</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Wednesday</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Thursday</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Friday</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Saturday</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeConflictDialog</name>
+    <message>
+        <source>&amp;Keep their changes and save only mine</source>
+        <translation>&amp;Keep their changes and save only mine</translation>
+    </message>
+    <message>
+        <source>&amp;Load their schemes and discard my changes</source>
+        <translation>&amp;Load their schemes and discard my changes</translation>
+    </message>
+    <message>
+        <source>&amp;Save my schemes over theirs</source>
+        <translation>&amp;Save my schemes over theirs</translation>
+    </message>
+    <message>
+        <source>Schemes were changed elsewhere</source>
+        <translation>Schemes were changed elsewhere</translation>
+    </message>
+    <message numerus="yes">
+        <source>Another program has changed %n scheme(s) since they were loaded.</source>
+        <translation>
+            <numerusform>Another program has changed %n scheme since it was loaded.</numerusform>
+            <numerusform>Another program has changed %n schemes since they were loaded.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>You have changed %n of them too; there, saving writes yours.</source>
+        <translation>
+            <numerusform>You have changed %n of them too; there, saving writes yours.</numerusform>
+            <numerusform>You have changed %n of them too; there, saving writes yours.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SchemeDamageDialog</name>
+    <message>
+        <source>&amp;Leave it as it is, to look only</source>
+        <translation>&amp;Leave it as it is, to look only</translation>
+    </message>
+    <message>
+        <source>&amp;Start with no schemes</source>
+        <translation>&amp;Start with no schemes</translation>
+    </message>
+    <message>
+        <source>The scheme database is damaged</source>
+        <translation>The scheme database is damaged</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged. What can still be read of it is shown; nothing can be saved.</source>
+        <translation>The file %1 is damaged. What can still be read of it is shown; nothing can be saved.</translation>
+    </message>
+    <message>
+        <source>Whatever you choose, the damaged file is kept.</source>
+        <translation>Whatever you choose, the damaged file is kept.</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Restore the backup of %1 with %n scheme(s)</source>
+        <translation>
+            <numerusform>&amp;Restore the backup of %1 with %n scheme</numerusform>
+            <numerusform>&amp;Restore the backup of %1 with %n schemes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no sound backup that could take its place.</source>
+        <translation>There is no sound backup that could take its place.</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeExplanation</name>
+    <message>
+        <source>The scheme is switched off.</source>
+        <translation>The scheme is switched off.</translation>
+    </message>
+    <message>
+        <source>The scheme is not armed at this time; it will be from %1.</source>
+        <translation>The scheme is not armed at this time; it will be from %1.</translation>
+    </message>
+    <message>
+        <source>The scheme is switched on but never armed.</source>
+        <translation>The scheme is switched on but never armed.</translation>
+    </message>
+    <message>
+        <source>The scheme is armed since %1 until %2.</source>
+        <translation>The scheme is armed since %1 until %2.</translation>
+    </message>
+    <message>
+        <source>The scheme is armed all the time.</source>
+        <translation>The scheme is armed all the time.</translation>
+    </message>
+    <message>
+        <source>There is no scheme for this event.</source>
+        <translation>There is no scheme for this event.</translation>
+    </message>
+    <message>
+        <source>Such an event does not happen there.</source>
+        <translation>Such an event does not happen there.</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeFileProblem</name>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, line %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeFiles</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>this is no file</source>
+        <translation>this is no file</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeHistoryReader</name>
+    <message>
+        <source>There is no history yet; it begins with the next save.</source>
+        <translation>There is no history yet; it begins with the next save.</translation>
+    </message>
+    <message>
+        <source>The history cannot be read: %1</source>
+        <translation>The history cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>beginning</source>
+        <translation>beginning</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>saved</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>outside</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>taken back</translation>
+    </message>
+    <message>
+        <source>imported</source>
+        <translation>imported</translation>
+    </message>
+    <message>
+        <source>restored</source>
+        <translation>restored</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeInput</name>
+    <message>
+        <source>The event source, by its key or as &quot;device/door&quot;.</source>
+        <translation>The event source, by its key or as &quot;device/door&quot;.</translation>
+    </message>
+    <message>
+        <source>The event type, by its number or its name.</source>
+        <translation>The event type, by its number or its name.</translation>
+    </message>
+    <message>
+        <source>There is no event type &quot;%1&quot;.</source>
+        <translation>There is no event type &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>SchemeStoreOutcome</name>
     <message>
         <source>%1 %2</source>
@@ -1076,6 +2774,700 @@ Data directory: %2</translation>
     <message>
         <source>Your changes are still here. Save again; if it happens again, see the log file.</source>
         <translation>Your changes are still here. Save again; if it happens again, see the log file.</translation>
+    </message>
+    <message>
+        <source>No scheme has changed; nothing had to be saved.</source>
+        <translation>No scheme has changed; nothing had to be saved.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
+        <translation>
+            <numerusform>%n scheme stays as another program has saved it. To see it here, start this program again.</numerusform>
+            <numerusform>%n schemes stay as another program has saved them. To see them here, start this program again.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) taken back.</source>
+        <translation>
+            <numerusform>%n scheme taken back.</numerusform>
+            <numerusform>%n schemes taken back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scheme(s) stay as they are, because they have changed since.</source>
+        <translation>
+            <numerusform>%n scheme stays as it is, because it has changed since.</numerusform>
+            <numerusform>%n schemes stay as they are, because they have changed since.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The history does not tell of it, because its file cannot be written.</source>
+        <translation>The history does not tell of it, because its file cannot be written.</translation>
+    </message>
+    <message>
+        <source>No backup could be made before: %1</source>
+        <translation>No backup could be made before: %1</translation>
+    </message>
+    <message>
+        <source>The program did not end properly last time. The scheme database was checked: it is sound, but it holds %1 row(s) that belong to no scheme; they are left out.</source>
+        <translation>The program did not end properly last time. The scheme database was checked: it is sound, but it holds %1 row(s) that belong to no scheme; they are left out.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The backup of %1 with %n scheme(s) was restored.</source>
+        <translation>
+            <numerusform>The backup of %1 with %n scheme was restored.</numerusform>
+            <numerusform>The backup of %1 with %n schemes was restored.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The program starts without schemes.</source>
+        <translation>The program starts without schemes.</translation>
+    </message>
+    <message>
+        <source>The damaged file was kept as %1.</source>
+        <translation>The damaged file was kept as %1.</translation>
+    </message>
+    <message>
+        <source>The scheme database is sound again; nothing was changed.</source>
+        <translation>The scheme database is sound again; nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The damaged scheme database was left as it is: %1</source>
+        <translation>The damaged scheme database was left as it is: %1</translation>
+    </message>
+    <message>
+        <source>another program has changed the schemes.</source>
+        <translation>another program has changed the schemes.</translation>
+    </message>
+    <message>
+        <source>the history does not tell what that step has changed.</source>
+        <translation>the history does not tell what that step has changed.</translation>
+    </message>
+    <message>
+        <source>another program has switched the scheme database to a journal that is not safe here, and still uses it.</source>
+        <translation>another program has switched the scheme database to a journal that is not safe here, and still uses it.</translation>
+    </message>
+    <message>
+        <source>the folder for backups cannot be written.</source>
+        <translation>the folder for backups cannot be written.</translation>
+    </message>
+    <message>
+        <source>Your changes are still here. Save again to choose what is kept.</source>
+        <translation>Your changes are still here. Save again to choose what is kept.</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeTextHandler</name>
+    <message>
+        <source>there are more problems; the rest was not looked at</source>
+        <translation>there are more problems; the rest was not looked at</translation>
+    </message>
+    <message>
+        <source>a day must be a list</source>
+        <translation>a day must be a list</translation>
+    </message>
+    <message>
+        <source>the entries of this list must be objects</source>
+        <translation>the entries of this list must be objects</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>&quot;%1&quot; must be a text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number from %2 to %3</source>
+        <translation>&quot;%1&quot; must be a whole number from %2 to %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be true or false</source>
+        <translation>&quot;%1&quot; must be true or false</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>&quot;%1&quot; must be an object</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a list</source>
+        <translation>&quot;%1&quot; must be a list</translation>
+    </message>
+    <message>
+        <source>this is no file of alarm schemes</source>
+        <translation>this is no file of alarm schemes</translation>
+    </message>
+    <message>
+        <source>holds half a character</source>
+        <translation>holds half a character</translation>
+    </message>
+    <message>
+        <source>the text of &quot;%1&quot; %2</source>
+        <comment>a field; what is wrong with its text</comment>
+        <translation>the text of &quot;%1&quot; %2</translation>
+    </message>
+    <message>
+        <source>this is a file of version %1; only version %2 can be read</source>
+        <translation>this is a file of version %1; only version %2 can be read</translation>
+    </message>
+    <message>
+        <source>there is no field &quot;%1&quot; here</source>
+        <translation>there is no field &quot;%1&quot; here</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands here twice</source>
+        <translation>&quot;%1&quot; stands here twice</translation>
+    </message>
+    <message>
+        <source>this is nested too deep for a file of alarm schemes</source>
+        <translation>this is nested too deep for a file of alarm schemes</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>&quot;%1&quot; is missing</translation>
+    </message>
+    <message>
+        <source>&quot;windowID&quot; must be from 0 to %1</source>
+        <translation>&quot;windowID&quot; must be from 0 to %1</translation>
+    </message>
+    <message>
+        <source>the cell %1 stands here twice</source>
+        <translation>the cell %1 stands here twice</translation>
+    </message>
+    <message>
+        <source>the window %1 stands here twice</source>
+        <translation>the window %1 stands here twice</translation>
+    </message>
+    <message>
+        <source>the output &quot;%1&quot; is linked twice</source>
+        <translation>the output &quot;%1&quot; is linked twice</translation>
+    </message>
+    <message>
+        <source>the door &quot;%1&quot; is no whole number</source>
+        <translation>the door &quot;%1&quot; is no whole number</translation>
+    </message>
+    <message>
+        <source>the door %1 is linked twice</source>
+        <translation>the door %1 is linked twice</translation>
+    </message>
+    <message>
+        <source>a region from %1 to %2 is none</source>
+        <translation>a region from %1 to %2 is none</translation>
+    </message>
+    <message>
+        <source>&quot;defenceTime&quot; must be a list of seven lists</source>
+        <translation>&quot;defenceTime&quot; must be a list of seven lists</translation>
+    </message>
+    <message>
+        <source>the cell %1 lies outside the layout</source>
+        <translation>the cell %1 lies outside the layout</translation>
+    </message>
+    <message>
+        <source>the window %1 is none of the cells in use</source>
+        <translation>the window %1 is none of the cells in use</translation>
+    </message>
+    <message>
+        <source>the scheme %1, event type %2, is listed twice</source>
+        <translation>the scheme %1, event type %2, is listed twice</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeTextReader</name>
+    <message>
+        <source>the text is not in UTF-8</source>
+        <translation>the text is not in UTF-8</translation>
+    </message>
+    <message>
+        <source>the text could not be read to its end: %1</source>
+        <translation>the text could not be read to its end: %1</translation>
+    </message>
+    <message>
+        <source>something follows after the end</source>
+        <translation>something follows after the end</translation>
+    </message>
+    <message>
+        <source>the text is empty</source>
+        <translation>the text is empty</translation>
+    </message>
+    <message>
+        <source>a text is not valid UTF-8, or holds an escape or a control character that is not allowed</source>
+        <translation>a text is not valid UTF-8, or holds an escape or a control character that is not allowed</translation>
+    </message>
+    <message>
+        <source>a number has too many digits</source>
+        <translation>a number has too many digits</translation>
+    </message>
+    <message>
+        <source>the text ends too early</source>
+        <translation>the text ends too early</translation>
+    </message>
+    <message>
+        <source>this is not valid JSON</source>
+        <translation>this is not valid JSON</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeTextRules</name>
+    <message>
+        <source>holds a double quote or a null character</source>
+        <translation>holds a double quote or a null character</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>is longer than %1 characters</translation>
+    </message>
+    <message>
+        <source>is a word that the database keeps for itself</source>
+        <translation>is a word that the database keeps for itself</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeTextWriter</name>
+    <message>
+        <source>A text of the scheme %1, event type %2, holds a double quote or a null character, which cannot be written.</source>
+        <translation>A text of the scheme %1, event type %2, holds a double quote or a null character, which cannot be written.</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>source, event</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>plays the alarm sound</source>
+        <translation>plays the alarm sound</translation>
+    </message>
+    <message>
+        <source>lets the icon twinkle on the e-map</source>
+        <translation>lets the icon twinkle on the e-map</translation>
+    </message>
+    <message>
+        <source>sends a mail</source>
+        <translation>sends a mail</translation>
+    </message>
+    <message>
+        <source>not armed</source>
+        <translation>not armed</translation>
+    </message>
+    <message>
+        <source>switches on %1 for %2 s</source>
+        <translation>switches on %1 for %2 s</translation>
+    </message>
+    <message>
+        <source>is linked to %1 (%2 s)</source>
+        <translation>is linked to %1 (%2 s)</translation>
+    </message>
+    <message>
+        <source>keeps %1 open</source>
+        <translation>keeps %1 open</translation>
+    </message>
+    <message>
+        <source>opens %1</source>
+        <translation>opens %1</translation>
+    </message>
+    <message>
+        <source>shows %1 in window %2 for %3 s</source>
+        <translation>shows %1 in window %2 for %3 s</translation>
+    </message>
+    <message>
+        <source>shows and records %1 in window %2 for %3 s</source>
+        <translation>shows and records %1 in window %2 for %3 s</translation>
+    </message>
+    <message>
+        <source>records %1 of window %2 for %3 s</source>
+        <translation>records %1 of window %2 for %3 s</translation>
+    </message>
+    <message>
+        <source>now %1</source>
+        <translation>now %1</translation>
+    </message>
+    <message>
+        <source>no longer %1</source>
+        <translation>no longer %1</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>switched on</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>switched off</translation>
+    </message>
+    <message>
+        <source>%1: %2, was %3</source>
+        <comment>day, armed time, armed time before</comment>
+        <translation>%1: %2, was %3</translation>
+    </message>
+    <message>
+        <source>another layout of the video wall</source>
+        <translation>another layout of the video wall</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeWriting</name>
+    <message>
+        <source>Writing the schemes</source>
+        <translation>Writing the schemes</translation>
+    </message>
+    <message>
+        <source>There is no backup of what was there before: %1</source>
+        <translation>There is no backup of what was there before: %1</translation>
+    </message>
+    <message>
+        <source>The history does not tell of it: %1</source>
+        <translation>The history does not tell of it: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShowCommand</name>
+    <message>
+        <source>Shows everything that is set in a scheme.</source>
+        <translation>Shows everything that is set in a scheme.</translation>
+    </message>
+    <message>
+        <source>--source S --event TYPE [options]</source>
+        <translation>--source S --event TYPE [options]</translation>
+    </message>
+    <message>
+        <source>--%1 is missing.</source>
+        <translation>--%1 is missing.</translation>
+    </message>
+    <message>
+        <source>There is no scheme for %1.</source>
+        <translation>There is no scheme for %1.</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Key: %1, event type %2</source>
+        <translation>Key: %1, event type %2</translation>
+    </message>
+    <message>
+        <source>Switched on: %1</source>
+        <translation>Switched on: %1</translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation>Sound: %1</translation>
+    </message>
+    <message>
+        <source>Twinkle on the e-map: %1</source>
+        <translation>Twinkle on the e-map: %1</translation>
+    </message>
+    <message>
+        <source>Mail: %1</source>
+        <translation>Mail: %1</translation>
+    </message>
+    <message>
+        <source>Outputs: none</source>
+        <translation>Outputs: none</translation>
+    </message>
+    <message>
+        <source>Outputs:</source>
+        <translation>Outputs:</translation>
+    </message>
+    <message>
+        <source>%1 (%2): switched on for %3 s</source>
+        <translation>%1 (%2): switched on for %3 s</translation>
+    </message>
+    <message>
+        <source>%1 (%2): not switched on by itself, for %3 s otherwise</source>
+        <translation>%1 (%2): not switched on by itself, for %3 s otherwise</translation>
+    </message>
+    <message>
+        <source>Doors: none</source>
+        <translation>Doors: none</translation>
+    </message>
+    <message>
+        <source>Doors:</source>
+        <translation>Doors:</translation>
+    </message>
+    <message>
+        <source>%1 (%2): kept open</source>
+        <translation>%1 (%2): kept open</translation>
+    </message>
+    <message>
+        <source>%1 (%2): opened</source>
+        <translation>%1 (%2): opened</translation>
+    </message>
+    <message>
+        <source>Video: none</source>
+        <translation>Video: none</translation>
+    </message>
+    <message>
+        <source>Video:</source>
+        <translation>Video:</translation>
+    </message>
+    <message>
+        <source>Window %1: %2 (%3), shown: %4, recorded: %5, preset %6, stream %7, %8 s</source>
+        <translation>Window %1: %2 (%3), shown: %4, recorded: %5, preset %6, stream %7, %8 s</translation>
+    </message>
+    <message>
+        <source>Video windows: %1 rows, %2 columns, %3 used</source>
+        <translation>Video windows: %1 rows, %2 columns, %3 used</translation>
+    </message>
+    <message>
+        <source>Defence time:</source>
+        <translation>Defence time:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>day of the week, regions</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SilencedFindings</name>
+    <message>
+        <source>The text is not in UTF-8.</source>
+        <translation>The text is not in UTF-8.</translation>
+    </message>
+    <message>
+        <source>Line %1: there is no finding &quot;%2&quot;.</source>
+        <translation>Line %1: there is no finding &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; is not the key of an event source.</source>
+        <translation>Line %1: &quot;%2&quot; is not the key of an event source.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 is not a file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than a list of findings can be.</source>
+        <translation>%1 is larger than a list of findings can be.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteArgument</name>
+    <message>
+        <source>Works on the site of this directory instead of the client&apos;s own.</source>
+        <translation>Works on the site of this directory instead of the client&apos;s own.</translation>
+    </message>
+    <message>
+        <source>Works on this site file.</source>
+        <translation>Works on this site file.</translation>
+    </message>
+    <message>
+        <source>--site and --data-dir exclude each other.</source>
+        <translation>--site and --data-dir exclude each other.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteExchange</name>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>there is not enough memory</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands where none may; a cell that holds one is written in quotation marks, with its own doubled</source>
+        <translation>a quotation mark stands where none may; a cell that holds one is written in quotation marks, with its own doubled</translation>
+    </message>
+    <message>
+        <source>a closing quotation mark is missing</source>
+        <translation>a closing quotation mark is missing</translation>
+    </message>
+    <message>
+        <source>it belonged to the device %1</source>
+        <translation>it belonged to the device %1</translation>
+    </message>
+    <message>
+        <source>it stood in no group</source>
+        <translation>it stood in no group</translation>
+    </message>
+    <message>
+        <source>it stood in the group %1</source>
+        <translation>it stood in the group %1</translation>
+    </message>
+    <message>
+        <source>its type was %1</source>
+        <translation>its type was %1</translation>
+    </message>
+    <message>
+        <source>its number was %1</source>
+        <translation>its number was %1</translation>
+    </message>
+    <message>
+        <source>it was enabled</source>
+        <translation>it was enabled</translation>
+    </message>
+    <message>
+        <source>it was disabled</source>
+        <translation>it was disabled</translation>
+    </message>
+    <message>
+        <source>it was online</source>
+        <translation>it was online</translation>
+    </message>
+    <message>
+        <source>it was offline</source>
+        <translation>it was offline</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>group</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>device</translation>
+    </message>
+    <message>
+        <source>channel</source>
+        <translation>channel</translation>
+    </message>
+    <message>
+        <source>%1 %2 &quot;%3&quot;</source>
+        <translation>%1 %2 &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is added</source>
+        <translation>%1 is added</translation>
+    </message>
+    <message>
+        <source>%1 is renamed: %2</source>
+        <translation>%1 is renamed: %2</translation>
+    </message>
+    <message>
+        <source>%1 is changed: %2</source>
+        <translation>%1 is changed: %2</translation>
+    </message>
+    <message>
+        <source>%1 is removed</source>
+        <translation>%1 is removed</translation>
+    </message>
+    <message>
+        <source>Nothing changes: the site is the same already.</source>
+        <translation>Nothing changes: the site is the same already.</translation>
+    </message>
+    <message>
+        <source>Only the order changes.</source>
+        <translation>Only the order changes.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 renamed, %3 changed, %4 removed.</source>
+        <translation>%1 added, %2 renamed, %3 changed, %4 removed.</translation>
+    </message>
+    <message>
+        <source>it was &quot;%1&quot;</source>
+        <translation>it was &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>there are %1 backup copies already; move them away</source>
+        <translation>there are %1 backup copies already; move them away</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>the file does not exist</translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <translation>this is not a file</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MB</source>
+        <translation>the file is larger than %1 MB</translation>
+    </message>
+    <message>
+        <source>the file was changed by somebody else meanwhile</source>
+        <translation>the file was changed by somebody else meanwhile</translation>
+    </message>
+    <message>
+        <source>the file does not exist any more</source>
+        <translation>the file does not exist any more</translation>
+    </message>
+    <message>
+        <source>this is not UTF-8 but looks like UTF-16; save the table as UTF-8</source>
+        <translation>this is not UTF-8 but looks like UTF-16; save the table as UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is not valid UTF-8; save the table as UTF-8</source>
+        <translation>the line is not valid UTF-8; save the table as UTF-8</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no record; write group, device or channel</source>
+        <translation>&quot;%1&quot; is no record; write group, device or channel</translation>
+    </message>
+    <message>
+        <source>the first row must name the columns: %1</source>
+        <translation>the first row must name the columns: %1</translation>
+    </message>
+    <message>
+        <source>unknown column &quot;%1&quot;; the columns are %2</source>
+        <translation>unknown column &quot;%1&quot;; the columns are %2</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; stands twice</source>
+        <translation>the column &quot;%1&quot; stands twice</translation>
+    </message>
+    <message>
+        <source>the column &quot;%1&quot; is missing</source>
+        <translation>the column &quot;%1&quot; is missing</translation>
+    </message>
+    <message>
+        <source>the row has more cells than there are columns; a name with the separator in it is written in quotation marks</source>
+        <translation>the row has more cells than there are columns; a name with the separator in it is written in quotation marks</translation>
+    </message>
+    <message>
+        <source>the id &quot;%1&quot; must be a whole number from 1 to %2</source>
+        <translation>the id &quot;%1&quot; must be a whole number from 1 to %2</translation>
+    </message>
+    <message>
+        <source>the id %1 already stands on line %2</source>
+        <translation>the id %1 already stands on line %2</translation>
+    </message>
+    <message>
+        <source>the parent &quot;%1&quot; is no id</source>
+        <translation>the parent &quot;%1&quot; is no id</translation>
+    </message>
+    <message>
+        <source>the type &quot;%1&quot; must be a whole number from 0 to %2, or one of: %3</source>
+        <translation>the type &quot;%1&quot; must be a whole number from 0 to %2, or one of: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the column &quot;%2&quot; must be yes or no</source>
+        <translation>&quot;%1&quot; in the column &quot;%2&quot; must be yes or no</translation>
+    </message>
+    <message>
+        <source>a %1 has nothing in the column &quot;%2&quot;</source>
+        <translation>a %1 has nothing in the column &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>a channel needs the id of its device in the column &quot;parent&quot;</source>
+        <translation>a channel needs the id of its device in the column &quot;parent&quot;</translation>
+    </message>
+    <message>
+        <source>the number &quot;%1&quot; must be a whole number from 0 to %2</source>
+        <translation>the number &quot;%1&quot; must be a whole number from 0 to %2</translation>
+    </message>
+    <message>
+        <source>the table is empty</source>
+        <translation>the table is empty</translation>
+    </message>
+    <message>
+        <source>the device %1 does not exist</source>
+        <translation>the device %1 does not exist</translation>
+    </message>
+    <message>
+        <source>the number %1 of the type %2 already stands on line %3</source>
+        <translation>the number %1 of the type %2 already stands on line %3</translation>
+    </message>
+    <message>
+        <source>the group %1 does not exist</source>
+        <translation>the group %1 does not exist</translation>
     </message>
 </context>
 <context>
@@ -1222,10 +3614,203 @@ Data directory: %2</translation>
     </message>
 </context>
 <context>
+    <name>SiteImportDialog</name>
+    <message>
+        <source>What is removed disappears from the open pages at once, and its schemes go with the next save.</source>
+        <translation>What is removed disappears from the open pages at once, and its schemes go with the next save.</translation>
+    </message>
+    <message>
+        <source>What the import does</source>
+        <translation>What the import does</translation>
+    </message>
+    <message>
+        <source>Import a site</source>
+        <translation>Import a site</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problem(s): correct the file and import it again. Nothing has been changed.</source>
+        <translation>
+            <numerusform>%n problem: correct the file and import it again. Nothing has been changed.</numerusform>
+            <numerusform>%n problems: correct the file and import it again. Nothing has been changed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SiteImportModel</name>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Change</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more line(s) are wrong.</source>
+        <translation>
+            <numerusform>%n more line are wrong.</numerusform>
+            <numerusform>%n more lines are wrong.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Wrong</source>
+        <translation>Wrong</translation>
+    </message>
+    <message>
+        <source>What stays stands in another order.</source>
+        <translation>What stays stands in another order.</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Moved</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Added</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Renamed</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Removed</translation>
+    </message>
+</context>
+<context>
+    <name>SiteIndex</name>
+    <message>
+        <source>&quot;%1&quot; is no key, and without a site file there are no names.</source>
+        <translation>&quot;%1&quot; is no key, and without a site file there are no names.</translation>
+    </message>
+    <message>
+        <source>The site has no &quot;%1&quot;.</source>
+        <translation>The site has no &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be any of these: %2.</source>
+        <translation>&quot;%1&quot; may be any of these: %2.</translation>
+    </message>
+</context>
+<context>
     <name>SiteSession</name>
     <message>
         <source>%1 was changed by somebody else and is left as it is; the removal holds until the client ends.</source>
         <translation>%1 was changed by somebody else and is left as it is; the removal holds until the client ends.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteTransfer</name>
+    <message>
+        <source>Import a site</source>
+        <translation>Import a site</translation>
+    </message>
+    <message>
+        <source>Tables and site files (*.csv *.tsv *.txt *.json);;All files (*)</source>
+        <translation>Tables and site files (*.csv *.tsv *.txt *.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Export the site</source>
+        <translation>Export the site</translation>
+    </message>
+    <message>
+        <source>Table (*.csv);;Site file (*.json)</source>
+        <translation>Table (*.csv);;Site file (*.json)</translation>
+    </message>
+    <message>
+        <source>The site cannot be imported. %1</source>
+        <translation>The site cannot be imported. %1</translation>
+    </message>
+    <message>
+        <source>The site was not imported, and nothing has changed. %1</source>
+        <translation>The site was not imported, and nothing has changed. %1</translation>
+    </message>
+    <message>
+        <source>The site was imported: %1</source>
+        <translation>The site was imported: %1</translation>
+    </message>
+    <message>
+        <source>The old one is kept in &quot;%1&quot; beside it.</source>
+        <translation>The old one is kept in &quot;%1&quot; beside it.</translation>
+    </message>
+    <message>
+        <source>The client works on this file itself; choose another for the export.</source>
+        <translation>The client works on this file itself; choose another for the export.</translation>
+    </message>
+    <message>
+        <source>The site cannot be exported. %1</source>
+        <translation>The site cannot be exported. %1</translation>
+    </message>
+    <message>
+        <source>The site was exported to %1.</source>
+        <translation>The site was exported to %1.</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>The schemes are being saved. The program closes when that is done.</source>
+        <translation>The schemes are being saved. The program closes when that is done.</translation>
+    </message>
+    <message>
+        <source>%1: there are changes that are not saved. Save them before the program closes?</source>
+        <translation>%1: there are changes that are not saved. Save them before the program closes?</translation>
+    </message>
+    <message>
+        <source>The schemes are being saved. The tab closes when that is done.</source>
+        <translation>The schemes are being saved. The tab closes when that is done.</translation>
+    </message>
+    <message>
+        <source>%1: there are changes that are not saved. Save them before the tab closes?</source>
+        <translation>%1: there are changes that are not saved. Save them before the tab closes?</translation>
+    </message>
+    <message>
+        <source>The schemes are being saved. They are loaded anew when that is done.</source>
+        <translation>The schemes are being saved. They are loaded anew when that is done.</translation>
+    </message>
+    <message>
+        <source>%1: there are changes that are not saved. Save them before everything is loaded anew?</source>
+        <translation>%1: there are changes that are not saved. Save them before everything is loaded anew?</translation>
+    </message>
+    <message>
+        <source>%1: there are changes that are not saved. Save them before the session ends?</source>
+        <translation>%1: there are changes that are not saved. Save them before the session ends?</translation>
+    </message>
+    <message>
+        <source>Changes are not saved</source>
+        <translation>Changes are not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>The last save failed. Close the program all the same and lose the changes?</source>
+        <translation>The last save failed. Close the program all the same and lose the changes?</translation>
     </message>
 </context>
 <context>
@@ -1283,6 +3868,59 @@ Data directory: %2</translation>
     <message>
         <source>%1, not available</source>
         <translation>%1, not available</translation>
+    </message>
+</context>
+<context>
+    <name>WeekHeatMap</name>
+    <message>
+        <source>%1 %2-%3</source>
+        <comment>day, begin, end</comment>
+        <translation>%1 %2-%3</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 schemes armed</source>
+        <translation>%1: %2 of %3 schemes armed</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 schemes armed, %4 more for a part of it</source>
+        <translation>%1: %2 of %3 schemes armed, %4 more for a part of it</translation>
+    </message>
+</context>
+<context>
+    <name>WhoSwitchesCommand</name>
+    <message>
+        <source>Tells which schemes switch an output on.</source>
+        <translation>Tells which schemes switch an output on.</translation>
+    </message>
+    <message>
+        <source>no: the scheme is switched off</source>
+        <translation>no: the scheme is switched off</translation>
+    </message>
+    <message>
+        <source>no: the scheme is never armed</source>
+        <translation>no: the scheme is never armed</translation>
+    </message>
+    <message>
+        <source>for %1 s</source>
+        <translation>for %1 s</translation>
+    </message>
+    <message>
+        <source>no: the output is not opened automatically</source>
+        <translation>no: the output is not opened automatically</translation>
+    </message>
+    <message>
+        <source>OUTPUT [options]</source>
+        <translation>OUTPUT [options]</translation>
+    </message>
+    <message>
+        <source>%1, linked by %2:</source>
+        <comment>output, number of schemes</comment>
+        <translation>%1, linked by %2:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>scheme, whether and how long it switches the output on</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

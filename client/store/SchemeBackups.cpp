@@ -19,7 +19,7 @@ namespace {
 
 using Failure = std::optional<AlarmSchemeStatementFailure>;
 
-constexpr qint64 HighestNumber = 999'999'999'999;
+constexpr qint64 HighestNumber = 999999999999;
 /// Other programs may take the number in the meantime.
 constexpr int AttemptsToName = 10;
 /// A copy that was cut off; nobody works on one for so long.
