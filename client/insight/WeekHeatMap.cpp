@@ -1,5 +1,6 @@
 #include "client/insight/WeekHeatMap.h"
 
+#include "client/insight/WeekHeatMapAccessible.h"
 #include "platform/LXGUI/Theme.h"
 
 #include <QHelpEvent>
@@ -36,6 +37,7 @@ QString ClockText(int iSlot)
 WeekHeatMap::WeekHeatMap(QWidget* parent)
     : QWidget(parent)
 {
+    WeekHeatMapAccessible::Install();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -195,6 +197,8 @@ void WeekHeatMap::keyPressEvent(QKeyEvent* event)
     m_current = next;
     update();
     PointAt(m_current);
+    QAccessibleValueChangeEvent changed(this, CurrentText());
+    QAccessible::updateAccessibility(&changed);
 }
 
 void WeekHeatMap::focusInEvent(QFocusEvent* event)

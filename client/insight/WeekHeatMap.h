@@ -21,6 +21,9 @@ public:
     /// "Monday 08:00-08:30: 12 of 40 schemes armed".
     QString SlotText(int iRow, int iSlot) const;
 
+    /// That of the half hour which the arrow keys have come to.
+    QString CurrentText() const { return SlotText(m_current.y(), m_current.x()); }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -1,7 +1,9 @@
 #include "AccessibleWalk.h"
+#include "CutText.h"
 #include "TellingPage.h"
 
 #include "client/ClientSettings.h"
+#include "client/ClientTranslations.h"
 #include "client/HomePage.h"
 #include "client/MailSettingsDialog.h"
 #include "client/MainWindow.h"
@@ -11,6 +13,10 @@
 #include "client/SaveIndicator.h"
 #include "client/SchemeConflictDialog.h"
 #include "client/SchemeDamageDialog.h"
+#include "client/insight/CoveragePage.h"
+#include "client/insight/ExplainPage.h"
+#include "client/insight/HistoryPage.h"
+#include "client/store/AlarmSchemeStoreBackend.h"
 #include "platform/LXGUI/Theme.h"
 #include "platform/SystemLibrary/QCommon.h"
 
@@ -30,6 +36,7 @@
 #include <memory>
 
 Q_DECLARE_METATYPE(std::function<QDialog*()>)
+Q_DECLARE_METATYPE(std::function<QWidget*()>)
 
 /// The client by keyboard alone, and as assistive technology finds it.
 class TestClientAccessibility : public QObject
@@ -45,6 +52,10 @@ private Q_SLOTS:
     void theTilesAreButtons();
     void everyControlOfADialogHasANameAndARole_data();
     void everyControlOfADialogHasANameAndARole();
+    void everyControlOfAPageHasANameAndARole_data();
+    void everyControlOfAPageHasANameAndARole();
+    void noTextIsCutInEitherLanguage_data();
+    void noTextIsCutInEitherLanguage();
     void aDialogIsWalkedThroughWithTab_data();
     void aDialogIsWalkedThroughWithTab();
     void theFocusIsSeenOnEveryButton_data();
@@ -55,10 +66,13 @@ private Q_SLOTS:
 
 private:
     static void AddDialogs();
+    void AddPages();
 
     std::unique_ptr<QTemporaryDir> m_directory;
     std::unique_ptr<ClientSettings> m_settings;
     std::unique_ptr<MainWindow> m_window;
+    StoredSchemeView m_schemes{QStringLiteral("none.db")};
+    AlarmSchemeStoreBackend m_store; // of no file
 };
 
 void TestClientAccessibility::initTestCase()
@@ -160,6 +174,63 @@ void TestClientAccessibility::everyControlOfADialogHasANameAndARole()
     dialog->show();
     const QStringList complaints = AccessibleWalk::Complaints(*dialog, 3);
     QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(QLatin1Char('\n'))));
+}
+
+void TestClientAccessibility::AddPages()
+{
+    QTest::addColumn<std::function<QWidget*()>>("make");
+    QTest::newRow("explain") << std::function<QWidget*()>([this] { return new ExplainPage(m_schemes); });
+    QTest::newRow("coverage") << std::function<QWidget*()>([this] { return new CoveragePage(m_schemes); });
+    QTest::newRow("history") << std::function<QWidget*()>(
+        [this] { return new HistoryPage(QStringLiteral("none.db"), m_store); });
+}
+
+void TestClientAccessibility::everyControlOfAPageHasANameAndARole_data()
+{
+    AddPages();
+}
+
+void TestClientAccessibility::everyControlOfAPageHasANameAndARole()
+{
+    QFETCH(std::function<QWidget*()>, make);
+    const std::unique_ptr<QWidget> page(make());
+    page->show();
+    const QStringList complaints = AccessibleWalk::Complaints(*page, 2);
+    QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(QLatin1Char('\n'))));
+}
+
+void TestClientAccessibility::noTextIsCutInEitherLanguage_data()
+{
+    QTest::addColumn<QString>("strLanguage");
+    QTest::newRow("English") << QStringLiteral("en");
+    QTest::newRow("Chinese") << QStringLiteral("zh_cn");
+}
+
+void TestClientAccessibility::noTextIsCutInEitherLanguage()
+{
+    QFETCH(QString, strLanguage);
+    const ClientTranslations translations(strLanguage, {QStringLiteral("./translations")});
+    QVERIFY(translations.InstalledCatalogues() > 0);
+    const QSize windowSize(1366, 768);
+    const auto look = [](QWidget* pMade, const QSize& size) {
+        const std::unique_ptr<QWidget> widget(pMade);
+        if (!size.isEmpty()) {
+            widget->resize(size);
+        }
+        widget->show();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        return CutText::Complaints(*widget).join(QLatin1Char('\n'));
+    };
+    QCOMPARE(look(new QuestionDialog({tr("Changes are not saved"), tr("Question?"), tr("&Save"),
+                                      tr("&Discard"), tr("Cancel")}),
+                  QSize()),
+             QString());
+    QCOMPARE(look(new SchemeConflictDialog(SchemeConflict{3, 1}), QSize()), QString());
+    QCOMPARE(look(new SchemeDamageDialog(SchemeDamage{}), QSize()), QString());
+    QCOMPARE(look(new MailSettingsDialog(SystemMailSettings{}), QSize()), QString());
+    QCOMPARE(look(new ExplainPage(m_schemes), windowSize), QString());
+    QCOMPARE(look(new CoveragePage(m_schemes), windowSize), QString());
+    QCOMPARE(look(new HistoryPage(QStringLiteral("none.db"), m_store), windowSize), QString());
 }
 
 void TestClientAccessibility::aDialogIsWalkedThroughWithTab_data()

@@ -1,10 +1,9 @@
 #include "client/ClientApplication.h"
 #include "client/MainWindow.h"
+#include "tests/client/CutText.h"
 
 #include <QAbstractButton>
-#include <QAbstractScrollArea>
 #include <QDir>
-#include <QLabel>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -41,20 +40,6 @@ private:
         m_client = std::make_unique<ClientApplication>(options, strProgramDirectory);
         return m_client->Start() && QTest::qWaitForWindowExposed(m_client->Window());
     }
-    /// What lies in a scroll area may be out of sight for a while.
-    static bool IsScrolled(const QWidget* pWidget, const QWidget* pPage)
-    {
-        for (const QWidget* p = pWidget->parentWidget(); p != nullptr && p != pPage; p = p->parentWidget()) {
-            if (qobject_cast<const QAbstractScrollArea*>(p) != nullptr)
-                return true;
-        }
-        return false;
-    }
-    static QString Name(const QWidget* pWidget)
-    {
-        return QStringLiteral("%1 %2").arg(QLatin1String(pWidget->metaObject()->className()),
-                                           pWidget->objectName());
-    }
 
     std::unique_ptr<QTemporaryDir> m_data;
     std::unique_ptr<ClientApplication> m_client;
@@ -89,24 +74,9 @@ void TestPageSizes::nothingIsCut()
         pWindow->resize(size);
         QTRY_COMPARE(pWindow->size(), size);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        const QList<QWidget*> widgets = pPage->findChildren<QWidget*>();
-        for (const QWidget* const pWidget : widgets) {
-            if (!pWidget->isVisible() || IsScrolled(pWidget, pPage))
-                continue;
-            const QRect place(pWidget->mapTo(pPage, QPoint(0, 0)), pWidget->size());
-            QVERIFY2(pPage->rect().contains(place),
-                     qPrintable(Name(pWidget) + QLatin1Char(' ') + QLatin1String(szTab)));
-            const bool bText = qobject_cast<const QLabel*>(pWidget) != nullptr ||
-                               (qobject_cast<const QAbstractButton*>(pWidget) != nullptr &&
-                                !static_cast<const QAbstractButton*>(pWidget)->text().isEmpty());
-            if (bText) {
-                QVERIFY2(pWidget->width() >= pWidget->minimumSizeHint().width(),
-                         qPrintable(QStringLiteral("%1: %2 of %3 pixels")
-                                        .arg(Name(pWidget))
-                                        .arg(pWidget->width())
-                                        .arg(pWidget->minimumSizeHint().width())));
-            }
-        }
+        const QStringList complaints = CutText::Complaints(*pPage);
+        QVERIFY2(complaints.isEmpty(),
+                 qPrintable(QLatin1String(szTab) + QLatin1Char('\n') + complaints.join(QLatin1Char('\n'))));
     }
 }
 
