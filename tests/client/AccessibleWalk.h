@@ -23,6 +23,7 @@ inline bool IsControl(QAccessible::Role role)
     case QAccessible::Table:
     case QAccessible::PageTab:
     case QAccessible::PageTabList:
+    case QAccessible::Chart:
     case QAccessible::ProgressBar:
     case QAccessible::MenuItem:
     case QAccessible::Dialog:
