@@ -3,7 +3,6 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeQuery.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QThread>
 #include <QUrl>
@@ -170,18 +169,30 @@ bool AlarmSchemeReadOnlyFile::LookAtFile()
     // A pipe would be waited for without an end.
     if (!info.isFile())
         return Refuse(Reason::NotAFile);
-    QFile file(m_strPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return Refuse(Reason::NoAccess, file.errorString());
-    const QByteArray header = file.read(ReadVersionAt + 1);
+    // Through SQLite, which keeps the locks of this process: a file that is opened and closed beside it takes
+    // away those of a save that another connection has under way.
+    sqlite3* raw = nullptr;
+    const int opened =
+        sqlite3_open_v2(info.absoluteFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READONLY, nullptr);
+    const std::unique_ptr<sqlite3, CloseDatabase> database(raw);
+    sqlite3_file* file = nullptr;
+    if (opened != SQLITE_OK)
+        return Refuse(Reason::NoAccess, QString::fromUtf8(sqlite3_errstr(opened)));
+    if (sqlite3_file_control(raw, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK || file == nullptr ||
+        file->pMethods == nullptr)
+        return Refuse(Reason::NoAccess);
+    QByteArray header(ReadVersionAt + 1, '\0');
+    // A file that is shorter is read as if it ended with zeros.
+    const int read = file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0);
+    if (read != SQLITE_OK && read != SQLITE_IOERR_SHORT_READ)
+        return Refuse(Reason::NoAccess, QString::fromUtf8(sqlite3_errstr(read)));
     // SQLite takes an empty file for a database without tables.
-    if (header.isEmpty())
+    if (info.size() == 0)
         return Refuse(Reason::NoSchemes);
-    if (file.size() < LeastSize)
+    if (info.size() < LeastSize)
         return Refuse(Reason::NotADatabase);
-    m_bWriteAheadLog =
-        header.startsWith(Magic) && header.size() > ReadVersionAt &&
-        (header.at(WriteVersionAt) == WriteAheadLog || header.at(ReadVersionAt) == WriteAheadLog);
+    m_bWriteAheadLog = header.startsWith(Magic) && (header.at(WriteVersionAt) == WriteAheadLog ||
+                                                    header.at(ReadVersionAt) == WriteAheadLog);
     return true;
 }
 

@@ -1,3 +1,5 @@
+#include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStoreReader.h"
+#include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/store_faults/FaultTestKit.h"
 #include "tests/store_faults/FaultyDisk.h"
 #include "tests/store_faults/SoakCount.h"
@@ -5,6 +7,8 @@
 #include <QCoreApplication>
 #include <QProcess>
 #include <QtTest>
+
+#include <sqlite3.h>
 
 #include <memory>
 #include <vector>
@@ -66,6 +70,7 @@ private Q_SLOTS:
     void theFileIsOldOrNewWhereverTheProcessEnds();
     void whatAKilledProcessHeldIsFree_data();
     void whatAKilledProcessHeldIsFree();
+    void aReaderInTheProcessThatSavesTakesNoLockAway();
     void twoProcessesThatSaveAtOnceLoseNoUpdate();
 
 private:
@@ -164,6 +169,21 @@ void StoreProcessesTest::whatAKilledProcessHeldIsFree()
     backend.WaitForSaves();
     QVERIFY2(backend.LastOutcome().IsSuccess(), qPrintable(backend.LastOutcome().strTechnical));
     QCOMPARE(FaultTestKit::Differs(m_change.stored), QString());
+}
+
+// The system forgets all locks of a process on a file when the process closes it, however often it is open.
+void StoreProcessesTest::aReaderInTheProcessThatSavesTakesNoLockAway()
+{
+    FaultTestKit::MakeFile(m_change.before);
+    const QString file = QGetAbsolutePath(QStringLiteral("AlarmScheme.db"), QGetDatabaseDirPath());
+    RawDatabase saving(file);
+    QCOMPARE(saving.Run(QStringLiteral("begin immediate; update AlarmBaseInfo set bOpen = 0")), SQLITE_OK);
+    AlarmInfoMap map;
+    QVERIFY(AlarmSchemeStoreReader(file).Read(map).IsSuccess());
+    QCOMPARE(map.size(), m_change.before.size());
+    Victim victim({QStringLiteral("hold"), QStringLiteral("begin immediate"), m_folder->Root()});
+    QCOMPARE(victim.End(), 1);
+    QCOMPARE(saving.Run(QStringLiteral("commit")), SQLITE_OK);
 }
 
 void StoreProcessesTest::twoProcessesThatSaveAtOnceLoseNoUpdate()
