@@ -1,13 +1,18 @@
 #include "scheme_editor/edits/SchemeDraft.h"
 
+#include "AlarmCtrl/AlarmSchemeData/AlarmInfoBytes.h"
+
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QIODevice>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr quint32 Magic = 0x41435344;
-constexpr quint16 Version = 1;
+constexpr quint16 Version = 2;
 constexpr int HeaderSize = 6; // bytes: magic and version
 constexpr int DigestSize = 32;
 constexpr int MaxKeyLength = 1000;    // as long as the store takes them
@@ -58,7 +63,6 @@ public:
         m_stream >> value;
         return value;
     }
-    bool Flag() { return Get<quint8>() != 0; }
     QString Key()
     {
         QString strKey = Get<QString>();
@@ -85,98 +89,33 @@ private:
     QDataStream m_stream;
 };
 
-void WriteVideo(Writer& out, const AlarmVideoSplit& video)
+/// Nothing for bytes that are no record, and for names that the store would not take.
+std::optional<AlarmInfo> ReadRecord(const QByteArray& bytes)
 {
-    static const AlarmSplitCells fresh;
-    out << video.SplitRow << video.SplitCloum << video.SplitCount;
-    const bool bCells = !(video.cells == fresh);
-    out << static_cast<quint8>(bCells);
-    for (int i = 0; bCells && i < AlarmSplitCells::CellCount; ++i) {
-        const AlarmSplitWindow& cell = video.cells[i];
-        out << static_cast<quint8>(cell.bEnable) << cell.iCombine << cell.X1 << cell.Y1 << cell.X2 << cell.Y2;
-    }
-    out.Size(video.videoLinks.size());
-    for (auto it = video.videoLinks.cbegin(); it != video.videoLinks.cend(); ++it) {
-        out << it.key() << it->strLinkDevID << it->Preposition << it->StreamType
-            << static_cast<quint8>(it->bOpen) << static_cast<quint8>(it->bRecord) << it->Time;
-    }
-}
-
-void ReadVideo(Reader& in, AlarmVideoSplit& video)
-{
-    video.SplitRow = in.Get<qint32>();
-    video.SplitCloum = in.Get<qint32>();
-    video.SplitCount = in.Get<qint32>();
-    const bool bCells = in.Flag();
-    for (int i = 0; bCells && i < AlarmSplitCells::CellCount; ++i) {
-        AlarmSplitWindow& cell = video.cells[i];
-        cell.bEnable = in.Flag();
-        for (int32_t* const pNumber : {&cell.iCombine, &cell.X1, &cell.Y1, &cell.X2, &cell.Y2})
-            *pNumber = in.Get<qint32>();
-    }
-    in.List([&] {
-        AlarmLinkVideo& link = video.videoLinks[in.Get<qint32>()];
-        link.strLinkDevID = in.Key();
-        link.Preposition = in.Get<qint32>();
-        link.StreamType = in.Get<qint32>();
-        link.bOpen = in.Flag();
-        link.bRecord = in.Flag();
-        link.Time = in.Get<qint32>();
-    });
-}
-
-void WriteRecord(Writer& out, const AlarmInfo& info)
-{
-    static const AlarmWeek fresh;
-    for (const bool bFlag : {info.bOpen, info.bOpenSound, info.bEmapTwinkle, info.bSendEmail})
-        out << static_cast<quint8>(bFlag);
-    WriteVideo(out, info.videoSplit);
-    out.Size(info.listAlarmOut.size());
-    for (const AlarmLinkAlarmOut& link : info.listAlarmOut)
-        out << link.strLinkAlarmID << static_cast<quint8>(link.bAutoOpen) << link.Time;
-    out.Size(info.listDoor.size());
-    for (const AlarmLinkDoor& link : info.listDoor)
-        out << link.strDoorID << static_cast<quint8>(link.bAlwaysOpen);
-    const bool bWeek = info.defenceTime != fresh;
-    out << static_cast<quint8>(bWeek);
-    for (int day = 0; bWeek && day < AlarmWeek::DayCount; ++day) {
-        out.Size(info.defenceTime[day].size());
-        for (const AlarmTimeRegion& region : info.defenceTime[day])
-            out << region.Begin << region.End;
-    }
-}
-
-AlarmInfo ReadRecord(Reader& in)
-{
-    AlarmInfo info;
-    for (bool* const pFlag : {&info.bOpen, &info.bOpenSound, &info.bEmapTwinkle, &info.bSendEmail})
-        *pFlag = in.Flag();
-    ReadVideo(in, info.videoSplit);
-    in.List([&] {
-        AlarmLinkAlarmOut link;
-        link.strLinkAlarmID = in.Key();
-        link.bAutoOpen = in.Flag();
-        link.Time = in.Get<qint32>();
-        info.listAlarmOut.append(link);
-    });
-    in.List([&] {
-        AlarmLinkDoor link;
-        link.strDoorID = in.Key();
-        link.bAlwaysOpen = in.Flag();
-        info.listDoor.append(link);
-    });
-    const bool bWeek = in.Flag();
-    for (int day = 0; bWeek && day < AlarmWeek::DayCount; ++day) {
-        AlarmDefenceTime_t regions;
-        in.List([&] {
-            AlarmTimeRegion region;
-            region.Begin = in.Get<qint32>();
-            region.End = in.Get<qint32>();
-            // As when schemes are loaded: a region that is none is left out.
-            if (region.Begin >= 0 && region.Begin <= region.End && region.End <= LastSecond)
-                regions.append(region);
-        });
-        info.defenceTime[day] = regions;
+    std::optional<AlarmInfo> info = AlarmInfoBytes::Read(bytes);
+    if (!info)
+        return std::nullopt;
+    const auto isTooLong = [](const QString& strName) { return strName.size() > MaxKeyLength; };
+    const bool tooLong =
+        std::any_of(info->videoSplit.videoLinks.cbegin(), info->videoSplit.videoLinks.cend(),
+                    [&](const AlarmLinkVideo& link) { return isTooLong(link.strLinkDevID); }) ||
+        std::any_of(info->listAlarmOut.cbegin(), info->listAlarmOut.cend(),
+                    [&](const AlarmLinkAlarmOut& link) { return isTooLong(link.strLinkAlarmID); }) ||
+        std::any_of(info->listDoor.cbegin(), info->listDoor.cend(),
+                    [&](const AlarmLinkDoor& link) { return isTooLong(link.strDoorID); });
+    if (tooLong)
+        return std::nullopt;
+    // As when schemes are loaded: a region that is none is left out.
+    const auto isNone = [](const AlarmTimeRegion& region) {
+        return region.Begin < 0 || region.Begin > region.End || region.End > LastSecond;
+    };
+    for (int day = 0; day < AlarmWeek::DayCount; ++day) {
+        const AlarmDefenceTime_t& stored = std::as_const(*info).defenceTime[day];
+        if (std::none_of(stored.cbegin(), stored.cend(), isNone))
+            continue;
+        AlarmDefenceTime_t regions = stored;
+        regions.erase(std::remove_if(regions.begin(), regions.end(), isNone), regions.end());
+        info->defenceTime[day] = regions;
     }
     return info;
 }
@@ -203,7 +142,7 @@ QByteArray SchemeDraft::Write(const SchemeChange& change)
     Writer out(payload);
     out.Size(used.size());
     for (const int iRecord : qAsConst(used))
-        WriteRecord(out, change.m_records[iRecord]);
+        out << AlarmInfoBytes::Write(change.m_records[iRecord]);
     out.Size(change.m_rows.size());
     for (const auto& row : change.m_rows) {
         out.Size(row.size());
@@ -233,7 +172,11 @@ std::optional<SchemeDraft> SchemeDraft::Read(const QByteArray& bytes)
     SchemeDraft draft;
     SchemeChange& content = draft.m_content;
     Reader in(payload);
-    in.List([&] { content.m_records.append(ReadRecord(in)); });
+    in.List([&] {
+        const std::optional<AlarmInfo> record = ReadRecord(in.Get<QByteArray>());
+        in.Require(record.has_value());
+        content.m_records.append(record.value_or(AlarmInfo()));
+    });
     in.List([&] {
         QVector<SchemeChange::Cell> row;
         in.List([&] {
