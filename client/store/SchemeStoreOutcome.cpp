@@ -85,6 +85,7 @@ SchemeStoreOutcome SchemeStoreOutcome::Reverted(int iSchemes, int iChangedSince)
 
 void SchemeStoreOutcome::AddHistoryFailure(const QString& strHistoryTechnical)
 {
+    bWarning = true;
     Add(tr("The history does not tell of it, because its file cannot be written."));
     strTechnical = strHistoryTechnical;
 }
