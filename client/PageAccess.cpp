@@ -31,6 +31,14 @@ void MarkUnsaved(QWidget* pPage)
     Call(pPage, "MarkUnsaved");
 }
 
+void SaveEnded(QWidget* pPage, bool bStored, bool bMore)
+{
+    if (Offers(pPage, "SaveEnded(bool,bool)")) {
+        QMetaObject::invokeMethod(pPage, "SaveEnded", Qt::DirectConnection, Q_ARG(bool, bStored),
+                                  Q_ARG(bool, bMore));
+    }
+}
+
 bool OffersDraft(const QWidget* pPage)
 {
     return Offers(pPage, "Draft()") && Offers(pPage, "RestoreDraft(QByteArray)");

@@ -16,6 +16,8 @@ bool CanSave(const QWidget* pPage);
 bool Save(QWidget* pPage); ///< false when the page cannot
 /// Tells the page that its last save did not reach the disk: "MarkUnsaved()".
 void MarkUnsaved(QWidget* pPage);
+/// Tells the page that a save has ended, and whether another one follows: "SaveEnded(bool,bool)".
+void SaveEnded(QWidget* pPage, bool bStored, bool bMore);
 
 bool OffersDraft(const QWidget* pPage);
 /// The edits that are not saved, in the page's own form: "QByteArray Draft() const". Empty when there are

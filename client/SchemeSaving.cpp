@@ -44,10 +44,24 @@ void SchemeSaving::WaitForSaves()
 
 void SchemeSaving::OnOutcome(const SchemeStoreOutcome& outcome)
 {
-    SetUnsaved(outcome.eOperation == SchemeStoreOutcome::Operation::Save && !outcome.IsSuccess());
+    if (outcome.eOperation != SchemeStoreOutcome::Operation::Save) {
+        SetUnsaved(false);
+    } else if (!outcome.bRevert) { // a step of the history is nobody's edit
+        OnSaveEnded(outcome.IsSuccess());
+    }
     if (!m_window.isNull()) {
         m_window->ShowSaveOutcome(outcome);
     }
+}
+
+void SchemeSaving::OnSaveEnded(bool bStored)
+{
+    const bool bMore = !m_store.isNull() && m_store->IsSaveWaiting();
+    if (!m_window.isNull()) {
+        m_window->Unsaved().TellSaveEnded(bStored, bMore);
+    }
+    // What follows may still bring it to the disk.
+    SetUnsaved(!bStored && !bMore);
 }
 
 SchemeConflictAnswer SchemeSaving::Ask(const SchemeConflict& conflict)

@@ -26,6 +26,7 @@ public:
 
 private:
     void OnOutcome(const SchemeStoreOutcome& outcome);
+    void OnSaveEnded(bool bStored);
     SchemeConflictAnswer Ask(const SchemeConflict& conflict);
     void Reload();
     void SetUnsaved(bool bUnsaved);

@@ -39,6 +39,14 @@ void UnsavedWork::MarkPagesUnsaved()
     }
 }
 
+void UnsavedWork::TellSaveEnded(bool bStored, bool bMore)
+{
+    const Pages pages = m_tabs.All();
+    for (const QPointer<QWidget>& page : pages) {
+        PageAccess::SaveEnded(page, bStored, bMore);
+    }
+}
+
 bool UnsavedWork::MayClose()
 {
     const auto closeLater = [this] { m_window.close(); };

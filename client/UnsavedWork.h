@@ -28,6 +28,8 @@ public:
     /// Whether the last save failed, so that the file does not hold what the pages show.
     void SetSaveFailed(bool bFailed) { m_bSaveFailed = bFailed; }
     void MarkPagesUnsaved(); ///< the last save did not reach the disk
+    /// A save has ended; with more to come another one follows with everything that pages have saved since.
+    void TellSaveEnded(bool bStored, bool bMore);
 
     /// Whether the window may close now. When not, either the operator decided so or was told that it closes
     /// by itself.

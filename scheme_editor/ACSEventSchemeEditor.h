@@ -102,6 +102,10 @@ public:
     /// The host says that the last save did not reach the disk: the page counts as unsaved again against the
     /// state before that save.
     Q_INVOKABLE void MarkUnsaved();
+    /// The host says that a save has ended, with or without reaching the disk, and whether another one
+    /// follows that holds everything handed over since. The state before the saves counts until the page is
+    /// told.
+    Q_INVOKABLE void SaveEnded(bool bStored, bool bMore);
     /// The edits that are not saved, for a file that outlives a crash: the schemes that differ from what was
     /// last loaded or saved. Empty when nothing differs.
     Q_INVOKABLE QByteArray Draft();

@@ -131,6 +131,11 @@ void ACSEventSchemeEditor::MarkUnsaved()
     m_book->MarkUnsaved();
 }
 
+void ACSEventSchemeEditor::SaveEnded(bool bStored, bool bMore)
+{
+    m_book->EndSave(bStored, bMore);
+}
+
 QByteArray ACSEventSchemeEditor::Draft()
 {
     if (m_observer && !m_observer->IsBusy())

@@ -33,6 +33,12 @@ void SchemeBook::MarkSaved()
     TellModified();
 }
 
+void SchemeBook::EndSave(bool bStored, bool bMore)
+{
+    m_modified.EndSave(bStored, bMore, m_schemes);
+    TellModified();
+}
+
 void SchemeBook::MarkUnsaved()
 {
     m_modified.MarkUnsaved(m_schemes);

@@ -27,7 +27,9 @@ public:
 
     /// The map has been filled anew: it is the saved state, and there is nothing to undo.
     void MarkLoaded();
-    void MarkSaved();   ///< the map has been handed over for saving
+    void MarkSaved(); ///< the map has been handed over for saving
+    /// A save has ended; see ModifiedSchemes.
+    void EndSave(bool bStored, bool bMore);
     void MarkUnsaved(); ///< what was handed over last did not come about
     bool IsModified() const { return !m_modified.IsEmpty(); }
     int EnabledCount() const { return m_iEnabled; }

@@ -41,8 +41,12 @@ SchemeStoreOutcome OutcomeOf(const DamageRepairResult& result, const SchemeDamag
 
 SchemeStoreOutcome OutcomeOf(const SaveResult& result)
 {
-    if (result.eReason != Reason::None)
-        return SchemeStoreOutcome::Failure(Operation::Save, result.eReason, result.strTechnical);
+    if (result.eReason != Reason::None) {
+        SchemeStoreOutcome failure =
+            SchemeStoreOutcome::Failure(Operation::Save, result.eReason, result.strTechnical);
+        failure.bRevert = result.bReverted;
+        return failure;
+    }
     SchemeStoreOutcome outcome =
         result.bReverted ? SchemeStoreOutcome::Reverted(result.iSchemes, result.changedSince.size())
                          : SchemeStoreOutcome::Saved(result.iSchemes, result.iKept);
@@ -182,8 +186,11 @@ int AlarmSchemeStoreBackend::Save(const AlarmInfoMap& map)
 
 int AlarmSchemeStoreBackend::Revert(qint64 iEntry, const QString& strNote)
 {
-    if (!m_lastLoad.IsSuccess())
-        return Report(SchemeStoreOutcome::RefusedSave(m_lastLoad));
+    if (!m_lastLoad.IsSuccess()) {
+        SchemeStoreOutcome refused = SchemeStoreOutcome::RefusedSave(m_lastLoad);
+        refused.bRevert = true;
+        return Report(refused);
+    }
     m_reverts.append({iEntry, strNote});
     if (m_eState == State::Idle) {
         StartNext();

@@ -88,7 +88,9 @@ public:
     /// How the last load or save ended; before the first one a load that is still to come (NotLoaded).
     const SchemeStoreOutcome& LastOutcome() const { return m_last; }
 
-    bool IsSaving() const;      ///< until the outcome of everything that Save has taken is known
+    bool IsSaving() const; ///< until the outcome of everything that Save has taken is known
+    /// Whether a map waits for the save before it to end.
+    bool IsSaveWaiting() const { return m_queued.has_value(); }
     int SchemesWritten() const; ///< by the present save
     int SchemesToWrite() const; ///< by the present save; 0 until it is known
     void WaitForSaves();        ///< returns when nothing is being saved; asks its questions

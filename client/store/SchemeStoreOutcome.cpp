@@ -75,6 +75,7 @@ SchemeStoreOutcome SchemeStoreOutcome::Reverted(int iSchemes, int iChangedSince)
 {
     SchemeStoreOutcome outcome;
     outcome.eOperation = Operation::Save;
+    outcome.bRevert = true;
     outcome.iSchemes = iSchemes;
     outcome.strWhat = tr("%n scheme(s) taken back.", nullptr, iSchemes);
     if (iChangedSince > 0)

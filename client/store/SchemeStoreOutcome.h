@@ -39,6 +39,7 @@ public:
     Operation eOperation = Operation::Load;
     Reason eReason = Reason::None;
     bool bWarning = false; ///< there is something to be told although it may have succeeded
+    bool bRevert = false;  ///< of taking a step back, not of what somebody has edited
     int iSchemes = 0;      ///< schemes read or written; 0 for a failed save
     QString strWhat;       ///< what happened, one translated sentence or two
     QString strNext;       ///< what to do next, translated; empty when there is nothing to do

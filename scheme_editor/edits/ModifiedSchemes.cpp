@@ -10,6 +10,15 @@ const AlarmInfo* Find(const AlarmInfoMap& schemes, const AlarmSourceKey& key)
     return found == schemes.cend() ? nullptr : &found.value();
 }
 
+/// What was there first counts.
+void AddOlder(AlarmInfoMap& originals, const AlarmInfoMap& later)
+{
+    for (auto it = later.cbegin(); it != later.cend(); ++it) {
+        if (!originals.contains(it.key()))
+            originals.insert(it.key(), it.value());
+    }
+}
+
 } // namespace
 
 ModifiedSchemes::ModifiedSchemes(SchemeContent::KnownOutput isKnown)
@@ -52,12 +61,32 @@ void ModifiedSchemes::Note(const AlarmSourceKey& key, const AlarmInfo* pBefore, 
 
 void ModifiedSchemes::MarkSaved()
 {
-    m_beforeSave = std::exchange(m_originals, AlarmInfoMap());
+    const AlarmInfoMap originals = std::exchange(m_originals, AlarmInfoMap());
+    if (std::exchange(m_bSaving, true))
+        AddOlder(m_beforeWaiting, originals);
+    else
+        m_beforeSave = originals;
+}
+
+void ModifiedSchemes::EndSave(bool bStored, bool bMore, const AlarmInfoMap& schemes)
+{
+    if (!bStored && !bMore) {
+        MarkUnsaved(schemes);
+        return;
+    }
+    const AlarmInfoMap waiting = std::exchange(m_beforeWaiting, AlarmInfoMap());
+    if (bStored)
+        m_beforeSave = bMore ? waiting : AlarmInfoMap();
+    else
+        AddOlder(m_beforeSave, waiting);
+    m_bSaving = bMore;
 }
 
 void ModifiedSchemes::MarkUnsaved(const AlarmInfoMap& schemes)
 {
-    const AlarmInfoMap before = std::exchange(m_beforeSave, AlarmInfoMap());
+    AlarmInfoMap before = std::exchange(m_beforeSave, AlarmInfoMap());
+    AddOlder(before, std::exchange(m_beforeWaiting, AlarmInfoMap()));
+    m_bSaving = false;
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         const AlarmInfo& now = SchemeContent::OrDefault(Find(schemes, it.key()));
         if (SchemeContent::AreSame(it.value(), now, m_isKnown))

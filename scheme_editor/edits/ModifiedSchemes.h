@@ -14,9 +14,13 @@ public:
     void Follow(const SchemeChange& change);
     void FollowBack(const SchemeChange& change); ///< the change is taken back
 
-    /// Everything is handed over for saving.
+    /// Everything is handed over for saving; until the end of that is known, what is handed over once more
+    /// waits behind it.
     void MarkSaved();
-    /// The last save did not come about: what counts is the state before it. `schemes` is the present state.
+    /// One save has ended; with more to come another one follows that holds everything handed over since.
+    void EndSave(bool bStored, bool bMore, const AlarmInfoMap& schemes);
+    /// Nothing of what was handed over is stored but what a save has ended with: what counts is the state
+    /// before. `schemes` is the present state.
     void MarkUnsaved(const AlarmInfoMap& schemes);
 
     bool IsEmpty() const { return m_originals.isEmpty(); }
@@ -28,6 +32,8 @@ private:
     void Note(const AlarmSourceKey& key, const AlarmInfo* pBefore, const AlarmInfo* pAfter);
 
     SchemeContent::KnownOutput m_isKnown;
-    AlarmInfoMap m_originals;  ///< of the schemes that differ; the default record for absent ones
-    AlarmInfoMap m_beforeSave; ///< the originals as they were when the last save began
+    AlarmInfoMap m_originals;     ///< of the schemes that differ; the default record for absent ones
+    bool m_bSaving = false;       ///< how the save ends is not known yet
+    AlarmInfoMap m_beforeSave;    ///< the originals as they were before what is being saved
+    AlarmInfoMap m_beforeWaiting; ///< the same of what was handed over since
 };

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void theDialogGivesTheChoice();
     void theDialogTellsHowManySchemesDiffer();
     void aFailedSaveMakesItUnsavedUntilOneSucceeds();
+    void aStepThatCannotBeTakenBackLeavesNothingUnsaved();
     void closingWaitsForTheSaveAndThenCloses();
     void closingStaysWhenTheSaveFails();
     void unsavedChangesAreLostOnlyWithConsent();
@@ -144,6 +145,16 @@ void SchemeSavingTest::aFailedSaveMakesItUnsavedUntilOneSucceeds()
     QCOMPARE(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText(),
              m_store->LastOutcome().Text());
     QCOMPARE(SaveAndWait(*m_store, Changed()), 0);
+    QVERIFY(!m_saving->IsUnsaved() && !Unsaved()->isVisible());
+}
+
+void SchemeSavingTest::aStepThatCannotBeTakenBackLeavesNothingUnsaved()
+{
+    constexpr qint64 NoStep = 99;
+    QCOMPARE(SaveAndWait(*m_store, Changed()), 0);
+    QCOMPARE(m_store->Revert(NoStep, QString()), 0);
+    m_store->WaitForSaves();
+    QVERIFY(!m_store->LastOutcome().IsSuccess());
     QVERIFY(!m_saving->IsUnsaved() && !Unsaved()->isVisible());
 }
 

@@ -72,6 +72,26 @@ struct LargeSite
     QList<QString> targets;
 };
 
+/// One scheme handed over for saving, and another one while that goes on.
+struct TwoSaves
+{
+    TwoSaves()
+        : modified(AllKnown)
+    {
+        for (const char* szKey : {"1$1$0$1", "1$1$0$2"}) {
+            const AlarmInfo on = On();
+            SchemeChange::Builder builder;
+            builder.Add(Key(szKey), nullptr, &on);
+            modified.Follow(builder.Take());
+            modified.MarkSaved();
+            now.insert(Key(szKey), on);
+        }
+    }
+
+    ModifiedSchemes modified;
+    AlarmInfoMap now;
+};
+
 } // namespace
 
 /// What happens to schemes on the page, without a page.
@@ -94,6 +114,9 @@ private Q_SLOTS:
     void onlyWhatDiffersIsModified();
     void absentEqualsDefault();
     void aFailedSaveGoesBackToTheStateBeforeIt();
+    void whatWaitedBehindAFailedSaveFailsWithIt();
+    void whatWaitsBehindASaveThatIsStoredIsUnsavedAlone();
+    void aStoredSaveIsNotGoneBackBehind();
     void aDraftOfALargeCopyIsSmall();
     void actionsHaveNames_data();
     void actionsHaveNames();
@@ -364,6 +387,45 @@ void TestSchemeEdits::aFailedSaveGoesBackToTheStateBeforeIt()
     AlarmInfoMap restored;
     modified.Difference(now).Apply(restored, Side::After);
     QCOMPARE(restored, now);
+}
+
+void TestSchemeEdits::whatWaitedBehindAFailedSaveFailsWithIt()
+{
+    for (const bool bToldOfBoth : {true, false}) {
+        const TwoSaves saves;
+        ModifiedSchemes modified = saves.modified;
+        // A save that is given up with the one that waits ends only once.
+        if (bToldOfBoth)
+            modified.EndSave(false, true, saves.now);
+        QVERIFY(modified.IsEmpty());
+        modified.EndSave(false, false, saves.now);
+        QCOMPARE(modified.Count(), 2);
+        AlarmInfoMap restored;
+        modified.Difference(saves.now).Apply(restored, Side::After);
+        QCOMPARE(restored, saves.now);
+    }
+}
+
+void TestSchemeEdits::whatWaitsBehindASaveThatIsStoredIsUnsavedAlone()
+{
+    TwoSaves saves;
+    saves.modified.EndSave(true, true, saves.now);
+    saves.modified.EndSave(false, false, saves.now);
+    QCOMPARE(saves.modified.Count(), 1);
+    AlarmInfoMap restored;
+    saves.modified.Difference(saves.now).Apply(restored, Side::After);
+    QCOMPARE(restored.keys(), QList<AlarmSourceKey>{Key("1$1$0$2")});
+}
+
+void TestSchemeEdits::aStoredSaveIsNotGoneBackBehind()
+{
+    for (const bool bFirstFails : {true, false}) {
+        TwoSaves saves;
+        saves.modified.EndSave(!bFirstFails, true, saves.now);
+        saves.modified.EndSave(true, false, saves.now);
+        saves.modified.MarkUnsaved(saves.now);
+        QVERIFY(saves.modified.IsEmpty());
+    }
 }
 
 void TestSchemeEdits::aDraftOfALargeCopyIsSmall()
