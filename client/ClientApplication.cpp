@@ -27,6 +27,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QLocale>
 #include <QSaveFile>
 #include <QStyleFactory>
@@ -40,6 +41,11 @@ QFont ClientFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPointSize(FontSize);
+    // Chinese signs that the system's font lacks come from these: in fonts that the toolkit finds by itself
+    // they may have the forms of another language.
+    font.setFamilies({QFontInfo(font).family(), QStringLiteral("Noto Sans CJK SC"),
+                      QStringLiteral("Source Han Sans SC"), QStringLiteral("Microsoft YaHei"),
+                      QStringLiteral("PingFang SC"), QStringLiteral("WenQuanYi Micro Hei")});
     return font;
 }
 

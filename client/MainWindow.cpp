@@ -374,8 +374,9 @@ void MainWindow::OnDataDirectory()
 void MainWindow::RefreshStatus()
 {
     const QString strEdited = m_pStatus->Text();
-    const bool bPage = m_pPages->Current() != nullptr;
-    m_pEdited->setText(!strEdited.isEmpty() ? strEdited : bPage ? tr("No event is selected.") : QString());
+    // A page that saves nothing edits nothing.
+    const bool bEditor = m_pStatus->CanSave();
+    m_pEdited->setText(strEdited.isEmpty() && bEditor ? tr("No event is selected.") : strEdited);
     const int iEnabled = m_pStatus->EnabledSchemes();
     m_pEnabled->setText(iEnabled < 0 ? QString() : tr("%n scheme(s) on", nullptr, iEnabled));
     m_pEnabled->setVisible(iEnabled >= 0);

@@ -21,7 +21,7 @@ QuestionDialog::QuestionDialog(const Texts& texts, QWidget* parent)
     SetTitle(texts.strTitle);
     ui->lblQuestion->setText(texts.strQuestion);
     setAccessibleDescription(texts.strQuestion);
-    QIcon icon(QStringLiteral("./Skin/theme1/notify/warning.png"));
+    QIcon icon(QStringLiteral("./Skin/theme1/dialog/warning.png"));
     if (icon.availableSizes().isEmpty()) {
         icon = style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this);
     }

@@ -1,6 +1,27 @@
 #!/usr/bin/env bash
-# Makes the pictures of docs/ from the real client, without a display.
+# Makes the pictures of docs/ from the real client, without a display:
+#     make-pictures.sh [BUILD]
+# or a picture of every screen in each language, on a small and on a large, finely resolved display, to look at:
+#     make-pictures.sh [BUILD] --all
 set -euo pipefail
 cd "$(dirname "$0")/.."
-build=$(cd "${1:-build}" && pwd)
-QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 "$build/tests/make_pictures" docs/pictures
+build=build
+all=false
+for argument in "$@"; do
+    case $argument in
+    --all) all=true ;;
+    *) build=$argument ;;
+    esac
+done
+build=$(cd "$build" && pwd)
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+
+if ! $all; then
+    "$build/tests/make_pictures" docs/pictures
+    exit
+fi
+for language in en zh_cn; do
+    "$build/tests/make_pictures" --all --language "$language" "$build/pictures/$language-1366x768"
+    QT_SCALE_FACTOR=2 "$build/tests/make_pictures" --all --language "$language" --size 1920x1080 \
+        "$build/pictures/$language-3840x2160"
+done

@@ -28,6 +28,7 @@ CoveragePage::CoveragePage(StoredSchemeView& schemes, QWidget* parent)
     m_sorted.setSourceModel(&m_findings);
     m_sorted.setSortRole(FindingsModel::SortRole);
     ui->tblFindings->setModel(&m_sorted);
+    ui->tblFindings->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tblFindings->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
     ui->tblFindings->sortByColumn(FindingsModel::ColumnSeverity, Qt::AscendingOrder);
     const auto changed = QOverload<int>::of(&QComboBox::currentIndexChanged);

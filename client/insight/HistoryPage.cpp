@@ -6,6 +6,7 @@
 #include "platform/LXGUI/LXMessageBox.h"
 #include "scheme_services/evaluation/SchemeWords.h"
 
+#include <QHeaderView>
 #include <QLocale>
 #include <QPointer>
 
@@ -27,6 +28,7 @@ HistoryPage::HistoryPage(const QString& strSchemeFile, AlarmSchemeStoreBackend& 
 {
     ui->setupUi(this);
     ui->tblSteps->setModel(&m_model);
+    ui->tblSteps->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(ui->tblSteps->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &HistoryPage::OnStepChanged);
     connect(&m_model, &HistoryModel::SignalMoreWanted, this, &HistoryPage::ReadMore);

@@ -36,6 +36,11 @@ void ClientDriver::UseSiteFile(const QString& strPath)
     m_options.strSiteFile = strPath;
 }
 
+void ClientDriver::UseLanguage(const QString& strLanguage)
+{
+    m_options.strLanguage = strLanguage;
+}
+
 bool ClientDriver::Start()
 {
     // The module and the skin lie where the program lies.

@@ -20,9 +20,10 @@ public:
     explicit ClientDriver(const QString& strDataDirectory, UserRole role = UserRole::Administrator);
     ~ClientDriver() override;
 
-    void UseSiteFile(const QString& strPath); ///< in place of the one in the data directory
-    bool Start();                             ///< without opening a page
-    bool OpenByTile();                        ///< clicks the tile of the event page
+    void UseSiteFile(const QString& strPath);     ///< in place of the one in the data directory
+    void UseLanguage(const QString& strLanguage); ///< in place of English
+    bool Start();                                 ///< without opening a page
+    bool OpenByTile();                            ///< clicks the tile of the event page
     void End();
 
     bool ClickNode(qint64 iId, int iKind);   ///< unfolds what hides the node and clicks its row
