@@ -5,7 +5,9 @@
 #include "client/ClientSettings.h"
 #include "client/ClientTranslations.h"
 #include "client/HomePage.h"
+#include "client/InsightPages.h"
 #include "client/MainWindow.h"
+#include "client/PageTabs.h"
 #include "client/SiteSession.h"
 #include "platform/LXGUI/LXMessageNotify.h"
 #include "platform/SystemLibrary/AlarmSchemeManager.h"
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void anotherSiteFileCanBeAskedFor();
     void theRoleDecidesTheRights();
     void modulesAreOpenedAtTheStart();
+    void aPageThatEditsNothingLeavesTheStatusBarEmpty();
     void anUnknownModuleAtTheStartIsReported();
     void aBrokenModuleIsReportedAndTheClientRunsOn();
     void withoutModulesTheClientRunsAndSaysSo();
@@ -177,6 +180,14 @@ void TestClientApplication::modulesAreOpenedAtTheStart()
     QVERIFY(Start());
     QCOMPARE(Tabs()->currentIndex(), 1);
     QVERIFY(m_client->Window()->findChild<QWidget*>(QStringLiteral("page_good"))->isVisible());
+}
+
+void TestClientApplication::aPageThatEditsNothingLeavesTheStatusBarEmpty()
+{
+    m_options.strOpenModule = QLatin1String(InsightPages::ExplainKey);
+    QVERIFY(Start());
+    QVERIFY(m_client->Window()->Pages().Current() != nullptr);
+    QCOMPARE(m_client->Window()->StatusText(), QString());
 }
 
 void TestClientApplication::anUnknownModuleAtTheStartIsReported()

@@ -38,6 +38,13 @@ QSet<QString> Programs::OptionsIn(const QString& strText)
     return options;
 }
 
+QString Programs::Listed(const QSet<QString>& options)
+{
+    QStringList list(options.cbegin(), options.cend());
+    list.sort();
+    return list.join(QLatin1Char(' '));
+}
+
 QSet<QString> Programs::AllOptions() const
 {
     QSet<QString> all = m_client;
@@ -57,7 +64,7 @@ QString Programs::Complaint(const QString& strCode) const
     if (match.captured(1) == QLatin1String("acs-scheme"))
         return SchemeComplaint(strArguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     const QSet<QString> unknown = OptionsIn(strArguments) - m_client;
-    return QStringList(unknown.values()).join(QLatin1Char(' '));
+    return Listed(unknown);
 }
 
 QString Programs::SchemeComplaint(const QStringList& words) const
@@ -68,5 +75,5 @@ QString Programs::SchemeComplaint(const QStringList& words) const
     if (!m_commands.contains(strFirst))
         return QStringLiteral("no command ") + strFirst;
     const QSet<QString> unknown = OptionsIn(words.mid(1).join(QLatin1Char(' '))) - m_commands.value(strFirst);
-    return QStringList(unknown.values()).join(QLatin1Char(' '));
+    return Listed(unknown);
 }

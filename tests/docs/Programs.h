@@ -23,6 +23,7 @@ public:
     QString Complaint(const QString& strCode) const;
 
     static QSet<QString> OptionsIn(const QString& strText);
+    static QString Listed(const QSet<QString>& options); ///< sorted, empty for none
 
 private:
     QString Ask(const QString& strProgram, const QStringList& arguments);

@@ -15,7 +15,7 @@ const QString Root = QStringLiteral(ACS_SOURCE_DIR);
 const QString SchemePage = QStringLiteral("docs/acs-scheme.md");
 const QString Guide = QStringLiteral("docs/guide.md");
 constexpr QSize LargestPicture(1366, 768);
-constexpr qint64 HeaviestPicture = 150 * 1024;
+constexpr qint64 HeaviestPicture = 150'000; // bytes
 
 QString Text(const QString& strFile)
 {
@@ -72,7 +72,8 @@ class TestDocumentation : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        for (const QString& strFile : Pages()) {
+        const QStringList pages = Pages();
+        for (const QString& strFile : pages) {
             m_documents += Document(Root, strFile);
             QVERIFY2(!m_documents.constLast().IsEmpty(), qPrintable(strFile));
         }
@@ -137,8 +138,7 @@ private Q_SLOTS:
                         document.File() == SchemePage && m_programs.Commands().contains(code.strSection);
                     const QSet<QString> known =
                         bCommand ? m_programs.OptionsOf(code.strSection) : m_programs.AllOptions();
-                    strComplaint = QStringList((Programs::OptionsIn(code.strText) - known).values())
-                                       .join(QLatin1Char(' '));
+                    strComplaint = Programs::Listed(Programs::OptionsIn(code.strText) - known);
                 }
                 if (!strComplaint.isEmpty())
                     complaints +=
@@ -163,8 +163,8 @@ private Q_SLOTS:
             QVERIFY2(page.Sections().contains(strCommand), qPrintable(strCommand));
             const QSet<QString> missing =
                 m_programs.OptionsOf(strCommand) - common - described.value(strCommand);
-            QVERIFY2(missing.isEmpty(), qPrintable(strCommand + QLatin1Char(' ') +
-                                                   QStringList(missing.values()).join(QLatin1Char(' '))));
+            QVERIFY2(missing.isEmpty(),
+                     qPrintable(strCommand + QLatin1Char(' ') + Programs::Listed(missing)));
         }
     }
 
