@@ -225,6 +225,7 @@ void ClientApplication::PrepareSchemes()
 {
     auto backend = std::make_unique<AlarmSchemeStoreBackend>();
     backend->SetAuthor(&SystemUser::Name);
+    backend->SetHistoryDays(m_settings->HistoryDays());
     m_saving = std::make_unique<SchemeSaving>(*backend, *m_window);
     m_insight = std::make_unique<InsightPages>(m_window->Pages(), *m_site, *backend);
     m_insight->FillMenu(m_window->SchemesMenu());

@@ -15,6 +15,7 @@ const QLatin1String KeyTheme("client/theme");
 const QLatin1String KeyGeometry("window/geometry");
 const QLatin1String KeyOpenPages("window/openPages");
 const QLatin1String KeyExpansion("tree/expansion");
+const QLatin1String KeyHistoryDays("history/days");
 const QLatin1String KeyMailEnabled("mail/enabled");
 const QLatin1String MailServers("mail/servers");
 const QLatin1String KeyHost("host");
@@ -163,6 +164,13 @@ void ClientSettings::SetMail(const SystemMailSettings& settings)
 QString ClientSettings::PasswordFile() const
 {
     return QFileInfo(FileName()).absolutePath() + QStringLiteral("/mail-passwords.json");
+}
+
+int ClientSettings::HistoryDays() const
+{
+    bool bNumber = false;
+    const int iDays = m_settings.value(KeyHistoryDays).toInt(&bNumber);
+    return bNumber && iDays >= 1 && iDays <= MaximumHistoryDays ? iDays : DefaultHistoryDays;
 }
 
 QStringList ClientSettings::TreeExpansion() const

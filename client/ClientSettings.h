@@ -13,6 +13,8 @@ class ClientSettings
 {
 public:
     static constexpr int MaximumMailServers = 32;
+    static constexpr int DefaultHistoryDays = 2 * 365;
+    static constexpr int MaximumHistoryDays = 100 * 365;
 
     explicit ClientSettings(const QString& strFile);
 
@@ -27,6 +29,7 @@ public:
     SystemMailSettings Mail() const;
     /// The passwords go into a file of their own beside this one, see MailPasswords.
     void SetMail(const SystemMailSettings& settings);
+    int HistoryDays() const;           ///< how long the history of the schemes keeps its steps
     QStringList TreeExpansion() const; ///< see TreeExpansion::ToTexts()
     void SetTreeExpansion(const QStringList& texts);
 

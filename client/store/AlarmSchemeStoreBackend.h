@@ -76,7 +76,7 @@ public:
 
     /// Tells who saves, for the history; asked when a map is taken. Nobody without one.
     void SetAuthor(Author author);
-    /// How long the history keeps its steps, in days.
+    /// How long the history keeps its steps, in days; for ever without it.
     void SetHistoryDays(int iDays);
 
     /// Takes one step of the history back, after the saves before it; -1 when saving is refused. The outcome

@@ -74,7 +74,7 @@ bool SchemeHistoryKeeper::ReadCounter()
 
 bool SchemeHistoryKeeper::NoteUntilNow(const AlarmInfoMap& held)
 {
-    if (!m_file->DropBefore(QDateTime::currentDateTimeUtc().addDays(-m_iDays)))
+    if (m_iDays && !m_file->DropBefore(QDateTime::currentDateTimeUtc().addDays(-*m_iDays)))
         return Fail();
     const std::optional<quint32> noted = m_file->SchemeFileCounter();
     if (noted == m_iCounter)

@@ -16,9 +16,6 @@ struct sqlite3;
 class SchemeHistoryKeeper
 {
 public:
-    /// Steps are kept for so long unless another time is set, in days.
-    static constexpr int DefaultDays = 2 * 365;
-
     /// Begins with the history of this scheme file, outside any transaction. The connection must outlive the
     /// keeping of it.
     void Start(sqlite3* pDatabase, const QString& strSchemeFile);
@@ -27,7 +24,7 @@ public:
     void Forget();
     bool IsKept() const { return m_file.has_value(); }
 
-    /// Steps older than that are dropped when the history is next caught up.
+    /// Steps older than that are dropped when the history is next caught up; none are before it is said.
     void KeepFor(int iDays) { m_iDays = iDays; }
 
     /// Reads how often the scheme file has been written; false when it cannot be told.
@@ -59,7 +56,7 @@ private:
 
     sqlite3* m_pDatabase = nullptr;
     std::optional<SchemeHistoryFile> m_file;
-    int m_iDays = DefaultDays;
+    std::optional<int> m_iDays;
     quint32 m_iCounter = 0; ///< of the scheme file, when it was last read
     bool m_bFailed = false;
     QString m_strFailure;

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void anEncryptionThatIsNotKnownIsTakenForOne();
     void fewerServersLeaveNothingOfTheOldOnes();
     void whatTheFileHoldsIsNotTrusted();
+    void theHistoryIsKeptForTwoYearsUnlessTheFileSaysSo_data();
+    void theHistoryIsKeptForTwoYearsUnlessTheFileSaysSo();
     void aFileThatIsNoIniFileGivesTheDefaults();
     void aFileThatCannotBeWrittenIsReported();
     void theLanguageIsTheAskedTheKeptOrTheSystems_data();
@@ -173,6 +175,28 @@ void TestClientSettings::whatTheFileHoldsIsNotTrusted()
     QCOMPARE(mail.servers.at(2).iPort, 25);
     QCOMPARE(mail.servers.at(3).iPort, 65535);
     QCOMPARE(mail.servers.at(3).strServer, QStringLiteral("d"));
+}
+
+void TestClientSettings::theHistoryIsKeptForTwoYearsUnlessTheFileSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("days");
+    QTest::addColumn<int>("iKept");
+    QTest::newRow("not said") << QByteArray() << 730;
+    QTest::newRow("a month") << QByteArray("30") << 30;
+    QTest::newRow("least") << QByteArray("1") << 1;
+    QTest::newRow("most") << QByteArray("36500") << 36500;
+    QTest::newRow("none") << QByteArray("0") << 730;
+    QTest::newRow("negative") << QByteArray("-30") << 730;
+    QTest::newRow("too many") << QByteArray("36501") << 730;
+    QTest::newRow("no number") << QByteArray("30d") << 730;
+}
+
+void TestClientSettings::theHistoryIsKeptForTwoYearsUnlessTheFileSaysSo()
+{
+    QFETCH(QByteArray, days);
+    QFETCH(int, iKept);
+    WriteFile("[history]\ndays=" + days + "\n");
+    QCOMPARE(ClientSettings(m_strFile).HistoryDays(), iKept);
 }
 
 void TestClientSettings::aFileThatIsNoIniFileGivesTheDefaults()

@@ -2,9 +2,9 @@
 // the end of its input, and "saved" when a save has succeeded.
 //   store_victim save few|many before|halfway OPERATION ROOT   saves; ends at the OPERATION-th thing that the
 //                                                              save does with files
-//   store_victim client WHICH ROUNDS ROOT                      saves its own changes in rounds, keeping
-//   others' store_victim hold STATEMENT ROOT                           runs the statement and holds what it
-//   locks
+//   store_victim client WHICH ROUNDS ROOT                      saves its own changes in rounds, keeping those
+//                                                              of others
+//   store_victim hold STATEMENT ROOT                           runs the statement and holds what it locks
 
 #include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/store_faults/FaultTestKit.h"
