@@ -79,14 +79,18 @@ SchemeFileProblems SchemeFiles::WriteText(const QString& strPath, const AlarmInf
         return Problem(strPath, tr("this is no file"));
     // The file appears whole at the end, or not at all.
     QSaveFile file(strPath);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Problem(strPath, file.errorString());
+    // Where only a part finds room, the reason is told to whoever tries the rest.
+    const auto put = [&file](const QByteArray& piece) {
+        const qint64 written = file.write(piece);
+        return written == piece.size() ||
+               (written >= 0 && file.write(piece.mid(static_cast<int>(written))) == piece.size() - written);
+    };
     SchemeTextWriter writer;
     if (progress)
         writer.SetProgress([&progress](int iDone, int iAll) { progress(iDone, iAll); });
-    const bool written =
-        writer.Write(map, [&file](const QByteArray& piece) { return file.write(piece) == piece.size(); });
-    if (written && file.commit())
+    if (writer.Write(map, put) && file.commit())
         return SchemeFileProblems();
     return Problem(strPath, writer.Failure().isEmpty() ? file.errorString() : writer.Failure());
 }
