@@ -14,14 +14,19 @@ for argument in "$@"; do
     esac
 done
 build=$(cd "$build" && pwd)
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8
 
 if ! $all; then
-    "$build/tests/make_pictures" docs/pictures
+    QT_QPA_PLATFORM=offscreen "$build/tests/make_pictures" docs/pictures
     exit
 fi
+
+# Windows take their measure from the display, so there is one of each size.
+unset DISPLAY WAYLAND_DISPLAY
+export QT_QPA_PLATFORM=xcb
 for language in en zh_cn; do
-    "$build/tests/make_pictures" --all --language "$language" "$build/pictures/$language-1366x768"
-    QT_SCALE_FACTOR=2 "$build/tests/make_pictures" --all --language "$language" --size 1920x1080 \
-        "$build/pictures/$language-3840x2160"
+    xvfb-run -a -s "-screen 0 1366x768x24" "$build/tests/make_pictures" --all --language "$language" \
+        "$build/pictures/$language-1366x768"
+    QT_SCALE_FACTOR=2 xvfb-run -a -s "-screen 0 3840x2160x24" "$build/tests/make_pictures" --all \
+        --language "$language" --size 1920x1080 "$build/pictures/$language-3840x2160"
 done
