@@ -119,17 +119,15 @@ DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const Schem
 SaveResult StoredSchemes::Save(const AlarmInfoMap& map, const std::optional<SchemeConflictAnswer>& answer,
                                const SaveOrigin& origin, SaveProgress& progress)
 {
-    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made, SaveResult& refusal) {
         const bool agreed = answer && m_asked && *m_asked == theirs;
         const bool over = agreed && *answer == SchemeConflictAnswer::SaveOver;
         made = PlanSave(m_base, theirs, map, over ? SaveRule::Everything : SaveRule::OwnChanges);
         if (!made.bAsk || agreed)
-            return std::nullopt;
+            return;
         m_asked = theirs;
-        std::optional<SaveResult> result(std::in_place);
-        result->eReason = Reason::Conflict;
-        result->conflict = SchemeConflict{made.iForeign, made.iBoth};
-        return result;
+        refusal.eReason = Reason::Conflict;
+        refusal.conflict = SchemeConflict{made.iForeign, made.iBoth};
     };
     SaveResult result = Run(plan, origin, progress, true);
     if (result.eReason != Reason::Conflict)
@@ -144,9 +142,8 @@ SaveResult StoredSchemes::Replace(const AlarmInfoMap& schemes,
                                   const std::optional<QList<AlarmSourceKey>>& remove,
                                   const SaveOrigin& origin, SaveProgress& progress)
 {
-    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made, SaveResult&) {
         made = PlanReplacement(theirs, schemes, remove ? *remove : theirs.keys());
-        return std::nullopt;
     };
     return Run(plan, origin, progress, false);
 }
@@ -154,13 +151,12 @@ SaveResult StoredSchemes::Replace(const AlarmInfoMap& schemes,
 SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SaveProgress& progress)
 {
     QList<AlarmSourceKey> changedSince;
-    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made) -> std::optional<SaveResult> {
+    const Planner plan = [&](const AlarmInfoMap& theirs, SavePlan& made, SaveResult& refusal) {
         const std::optional<SchemeHistoryChanges> changes = m_history.Changes(iEntry);
         if (!changes) {
-            SaveResult result;
-            result.eReason = Reason::NoHistory;
-            result.strTechnical = m_history.Failure();
-            return result;
+            refusal.eReason = Reason::NoHistory;
+            refusal.strTechnical = m_history.Failure();
+            return;
         }
         AlarmInfoMap back;
         QList<AlarmSourceKey> remove;
@@ -177,7 +173,6 @@ SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SavePr
                 remove.append(change.key);
         }
         made = PlanReplacement(theirs, back, remove);
-        return std::nullopt;
     };
     SaveResult result = Run(plan, origin, progress, false);
     result.bReverted = true;
@@ -243,8 +238,10 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
         if (transaction.IsAlive())
             m_history.CatchUp(theirs);
         if (transaction.IsAlive()) {
-            if (const std::optional<SaveResult> end = makePlan(theirs, plan))
-                return *end;
+            SaveResult refusal;
+            makePlan(theirs, plan, refusal);
+            if (refusal.eReason != Reason::None)
+                return refusal;
             progress.iSchemes = plan.Schemes();
             noBackup = BackUp(theirs);
             if (Write(plan, transaction, progress)) {

@@ -104,8 +104,8 @@ public:
     void KeepHistoryFor(int iDays) { m_history.KeepFor(iDays); }
 
 private:
-    /// Makes the plan from what the file holds; a result is the end, and nothing is written.
-    using Planner = std::function<std::optional<SaveResult>(const AlarmInfoMap& theirs, SavePlan& plan)>;
+    /// Makes the plan from what the file holds, or gives the reason why nothing is to be written.
+    using Planner = std::function<void(const AlarmInfoMap& theirs, SavePlan& plan, SaveResult& refusal)>;
 
     void Open();
     std::optional<AlarmSchemeStatementFailure> BackUp(const AlarmInfoMap& theirs) const;
