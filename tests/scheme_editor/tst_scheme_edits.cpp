@@ -241,7 +241,7 @@ void TestSchemeEdits::aCopyToTenThousandDoorsCostsKilobytes()
     QCOMPARE(change.Count(), 10000 * (iTypes - 1) + 100);
     QCOMPARE(change.RecordCount(), iTypes);
     QCOMPARE(change.RowCount(), 2);
-    QVERIFY2(change.Cost() < 1024 * 1024, qPrintable(QString::number(change.Cost())));
+    QVERIFY2(change.Cost() < 1024LL * 1024, qPrintable(QString::number(change.Cost())));
     // The step's records share their memory with those of the map.
     int iShared = 0;
     int iVisited = 0;
@@ -294,7 +294,7 @@ void TestSchemeEdits::aStepAfterALargeCopyCostsLittle()
 void TestSchemeEdits::theHistoryIsBoundedInMemory()
 {
     int iMade = 0;
-    constexpr int64_t iMaxCost = 1024 * 1024;
+    constexpr int64_t iMaxCost = 1024LL * 1024;
     SchemeHistory history([&iMade](const SchemeChange&, Side) { ++iMade; }, AllKnown, iMaxCost);
     // Steps that share nothing: every record has a week of its own.
     constexpr int iRecords = 1000;
