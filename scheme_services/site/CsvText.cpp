@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr size_t BufferStep = 1U << 16U;
+
 class Reader
 {
 public:
@@ -14,6 +16,8 @@ public:
     {
         m_bReady = csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI) == 0;
         csv_set_delim(&m_parser, static_cast<unsigned char>(cSeparator));
+        // Its buffer grows by so many bytes at a time; by few, a huge cell would be copied again and again.
+        csv_set_blk_size(&m_parser, BufferStep);
     }
     ~Reader() { csv_free(&m_parser); }
     Reader(const Reader&) = delete;
