@@ -44,9 +44,9 @@ void InsightPages::FillMenu(QMenu& menu)
         pAction->setObjectName(strName);
         connect(pAction, &QAction::triggered, this, open);
     };
-    add(tr("&Explain..."), QStringLiteral("actionExplain"), &InsightPages::OpenExplain);
-    add(tr("&Coverage..."), QStringLiteral("actionCoverage"), &InsightPages::OpenCoverage);
-    add(tr("&History..."), QStringLiteral("actionHistory"), &InsightPages::OpenHistory);
+    add(tr("&Explain"), QStringLiteral("actionExplain"), &InsightPages::OpenExplain);
+    add(tr("&Coverage"), QStringLiteral("actionCoverage"), &InsightPages::OpenCoverage);
+    add(tr("&History"), QStringLiteral("actionHistory"), &InsightPages::OpenHistory);
 }
 
 void InsightPages::OpenExplain()

@@ -470,8 +470,8 @@
         <translation>Nothing to complain of.</translation>
     </message>
     <message>
-        <source>%1 errors, %2 warnings, %3 notes</source>
-        <translation>%1 errors, %2 warnings, %3 notes</translation>
+        <source>Errors: %1, warnings: %2, notes: %3</source>
+        <translation>Errors: %1, warnings: %2, notes: %3</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1118,13 @@
             <numerusform>Make the %n schemes of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n scheme(s) were not taken back, because they have changed since:</source>
+        <translation>
+            <numerusform>%n scheme was not taken back, because it has changed since:</numerusform>
+            <numerusform>%n schemes were not taken back, because they have changed since:</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>HistoryText</name>
@@ -1230,16 +1237,16 @@
 <context>
     <name>InsightPages</name>
     <message>
-        <source>&amp;Explain...</source>
-        <translation>&amp;Explain...</translation>
+        <source>&amp;Explain</source>
+        <translation>&amp;Explain</translation>
     </message>
     <message>
-        <source>&amp;Coverage...</source>
-        <translation>&amp;Coverage...</translation>
+        <source>&amp;Coverage</source>
+        <translation>&amp;Coverage</translation>
     </message>
     <message>
-        <source>&amp;History...</source>
-        <translation>&amp;History...</translation>
+        <source>&amp;History</source>
+        <translation>&amp;History</translation>
     </message>
 </context>
 <context>

@@ -467,8 +467,8 @@
         <translation>未发现问题。</translation>
     </message>
     <message>
-        <source>%1 errors, %2 warnings, %3 notes</source>
-        <translation>%1 个错误，%2 个警告，%3 个提示</translation>
+        <source>Errors: %1, warnings: %2, notes: %3</source>
+        <translation>错误：%1，警告：%2，提示：%3</translation>
     </message>
 </context>
 <context>
@@ -1111,6 +1111,12 @@
             <numerusform>要将 %1 的步骤所涉及的 %n 个预案恢复到该步骤之前的状态吗？此后又有更改的预案保持不变。页面将重新加载。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n scheme(s) were not taken back, because they have changed since:</source>
+        <translation>
+            <numerusform>有 %n 个预案之后又有更改，未撤回：</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>HistoryText</name>
@@ -1222,16 +1228,16 @@
 <context>
     <name>InsightPages</name>
     <message>
-        <source>&amp;Explain...</source>
-        <translation>预案推演(&amp;E)...</translation>
+        <source>&amp;Explain</source>
+        <translation>预案推演(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Coverage...</source>
-        <translation>布防覆盖(&amp;C)...</translation>
+        <source>&amp;Coverage</source>
+        <translation>布防覆盖(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;History...</source>
-        <translation>历史记录(&amp;H)...</translation>
+        <source>&amp;History</source>
+        <translation>历史记录(&amp;H)</translation>
     </message>
 </context>
 <context>

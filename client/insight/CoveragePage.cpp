@@ -117,7 +117,7 @@ void CoveragePage::ShowFindings(const QVector<Finding>& findings)
     }
     ui->lblFindings->setText(
         findings.isEmpty() ? tr("Nothing to complain of.")
-                           : tr("%1 errors, %2 warnings, %3 notes")
+                           : tr("Errors: %1, warnings: %2, notes: %3")
                                  .arg(QString::number(m_findings.CountOf(FindingSeverity::Error)),
                                       QString::number(m_findings.CountOf(FindingSeverity::Warning)),
                                       QString::number(m_findings.CountOf(FindingSeverity::Information))));

@@ -33,6 +33,11 @@ HistoryPage::HistoryPage(const QString& strSchemeFile, AlarmSchemeStoreBackend& 
             &HistoryPage::OnStepChanged);
     connect(&m_model, &HistoryModel::SignalMoreWanted, this, &HistoryPage::ReadMore);
     connect(ui->btnTakeBack, &QPushButton::clicked, this, &HistoryPage::OnTakeBack);
+    connect(&m_store, &AlarmSchemeStoreBackend::SignalReverted, this,
+            [this](qint64 iEntry, const QList<AlarmSourceKey>& changedSince) {
+                m_iReverted = iEntry;
+                m_left = changedSince;
+            });
     connect(&m_store, &AlarmSchemeStoreBackend::SignalSavingChanged, this, [this](bool bSaving) {
         if (!bSaving) {
             Refresh();
@@ -96,9 +101,9 @@ void HistoryPage::OnStepChanged()
             SchemeHistoryReader reader(strFile);
             const auto changes = reader.Changes(iId);
             const QString strProblem = reader.Problem();
-            return [this, changes, strProblem] {
+            return [this, iId, changes, strProblem] {
                 if (changes) {
-                    ShowChanges(*changes);
+                    ShowChanges(iId, *changes);
                 } else {
                     ui->lblChanges->setText(strProblem);
                 }
@@ -106,7 +111,7 @@ void HistoryPage::OnStepChanged()
         });
 }
 
-void HistoryPage::ShowChanges(const SchemeHistoryChanges& changes)
+void HistoryPage::ShowChanges(qint64 iEntry, const SchemeHistoryChanges& changes)
 {
     ui->lblChanges->setText(
         changes.size() <= SchemesListed
@@ -114,6 +119,9 @@ void HistoryPage::ShowChanges(const SchemeHistoryChanges& changes)
             : tr("%1 schemes changed, the first %2 of them:")
                   .arg(QLocale().toString(changes.size()), QLocale().toString(SchemesListed)));
     QList<QTreeWidgetItem*> items;
+    if (auto* const pLeft = LeftAlone(iEntry)) {
+        items += pLeft;
+    }
     for (int iChange = 0; iChange < qMin(changes.size(), SchemesListed); ++iChange) {
         const SchemeHistoryChange& change = changes.at(iChange);
         const QString strName = SchemeWords::Name(change.key, m_site);
@@ -135,6 +143,22 @@ void HistoryPage::ShowChanges(const SchemeHistoryChanges& changes)
     }
     ui->trvChanges->clear();
     ui->trvChanges->addTopLevelItems(items);
+    if (iEntry == m_iReverted && !m_left.isEmpty()) {
+        ui->trvChanges->expandItem(ui->trvChanges->topLevelItem(0));
+    }
+}
+
+QTreeWidgetItem* HistoryPage::LeftAlone(qint64 iEntry) const
+{
+    if (iEntry != m_iReverted || m_left.isEmpty()) {
+        return nullptr;
+    }
+    auto* const pItem = new QTreeWidgetItem(
+        {tr("%n scheme(s) were not taken back, because they have changed since:", nullptr, m_left.size())});
+    for (const AlarmSourceKey& key : m_left.mid(0, SchemesListed)) {
+        new QTreeWidgetItem(pItem, {SchemeWords::Name(key, m_site)});
+    }
+    return pItem;
 }
 
 void HistoryPage::OnTakeBack()

@@ -9,6 +9,7 @@
 #include <memory>
 
 class AlarmSchemeStoreBackend;
+class QTreeWidgetItem;
 
 namespace Ui {
 class HistoryPage;
@@ -30,14 +31,18 @@ public:
 private:
     void ReadMore(qint64 iBefore);
     void OnStepChanged();
-    void ShowChanges(const SchemeHistoryChanges& changes);
+    void ShowChanges(qint64 iEntry, const SchemeHistoryChanges& changes);
     void OnTakeBack();
+    QTreeWidgetItem* LeftAlone(qint64 iEntry) const;
 
     std::unique_ptr<Ui::HistoryPage> ui;
     QString m_strFile;
     AlarmSchemeStoreBackend& m_store;
     SiteIndex m_site;
     HistoryModel m_model;
+    /// Of the step that was taken back last: schemes that have changed since and were left alone.
+    qint64 m_iReverted = 0;
+    QList<AlarmSourceKey> m_left;
     BackgroundJob m_entriesJob;
     BackgroundJob m_changesJob;
 };

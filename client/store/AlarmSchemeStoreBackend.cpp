@@ -245,6 +245,11 @@ void AlarmSchemeStoreBackend::OnSaved(const SaveResult& result, bool bOpen, cons
     const QPointer<AlarmSchemeStoreBackend> self(this);
     const bool reload = result.bReverted && result.iSchemes > 0 && !m_bLoading && !m_bEnding;
     const ReloadHandler reloadHandler = reload ? m_reloadHandler : ReloadHandler();
+    if (result.bReverted && result.eReason == Reason::None) {
+        Q_EMIT SignalReverted(result.iReverted, result.changedSince);
+        if (self.isNull())
+            return;
+    }
     End(OutcomeOf(result));
     if (reloadHandler && !self.isNull())
         reloadHandler();

@@ -100,6 +100,8 @@ public:
 
 Q_SIGNALS:
     void SignalSavingChanged(bool bSaving);
+    /// A step was taken back, but for these schemes, which have changed since. Before SignalSavingChanged.
+    void SignalReverted(qint64 iEntry, const QList<AlarmSourceKey>& changedSince);
 
 private:
     struct RevertWish

@@ -176,6 +176,7 @@ SaveResult StoredSchemes::Revert(qint64 iEntry, const SaveOrigin& origin, SavePr
     };
     SaveResult result = Run(plan, origin, progress, false);
     result.bReverted = true;
+    result.iReverted = iEntry;
     result.changedSince = changedSince;
     return result;
 }

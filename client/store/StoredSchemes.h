@@ -43,6 +43,7 @@ struct SaveResult
     /// Why no backup was made of what the file held; nothing when there is one of today.
     std::optional<AlarmSchemeStatementFailure> noBackup;
     QString strHistoryFailure; ///< why the history does not tell of it, in SQLite's words; empty when it does
+    qint64 iReverted = 0;      ///< the step that was to be taken back
     bool bReverted = false;    ///< a step was taken back
     /// Schemes that were left alone by taking a step back, since they have changed after it.
     QList<AlarmSourceKey> changedSince;

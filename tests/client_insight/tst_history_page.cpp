@@ -33,6 +33,7 @@ private Q_SLOTS:
     void aStepTellsItsChangesInWords();
     void theBeginningCannotBeTakenBack();
     void aStepIsTakenBackAfterAQuestion();
+    void schemesThatWereNotTakenBackAreNamed();
     void aRefusedQuestionChangesNothing();
     void theListGrowsWithEverySave();
     void aLongHistoryComesPieceByPiece();
@@ -148,6 +149,29 @@ void HistoryPageTest::aStepIsTakenBackAfterAQuestion()
     QCOMPARE(Cell(0, HistoryModel::ColumnWhat), QStringLiteral("taken back"));
     QVERIFY(!m_client->map.value(Door(1)).bOpenSound); // loaded anew
     QCOMPARE(m_client->iReloads, 1);
+}
+
+void HistoryPageTest::schemesThatWereNotTakenBackAreNamed()
+{
+    TwoSaves();
+    m_client->map[Door(1)].bSendEmail = true;
+    QCOMPARE(m_client->Save(), 0);
+    QTRY_COMPARE(Rows(), 3);
+    Child<QTableView>("tblSteps")->selectRow(2); // made both schemes, of which the first has changed since
+    const DialogAnswer answer("btnAccept");
+    Child<QPushButton>("btnTakeBack")->click();
+    QVERIFY(answer.WasGiven());
+    m_client->store.WaitForSaves();
+    QTRY_COMPARE(Rows(), 4);
+    const auto* changes = Child<QTreeWidget>("trvChanges");
+    QTRY_COMPARE(changes->topLevelItemCount(), 3);
+    const QTreeWidgetItem* left = changes->topLevelItem(0);
+    QVERIFY(left->isExpanded());
+    QCOMPARE(left->childCount(), 1);
+    QVERIFY(left->child(0)->text(0).contains(Door(1).strEventSource));
+    // Another step has nothing to do with that.
+    Child<QTableView>("tblSteps")->selectRow(1);
+    QTRY_COMPARE(changes->topLevelItemCount(), 1);
 }
 
 void HistoryPageTest::aRefusedQuestionChangesNothing()

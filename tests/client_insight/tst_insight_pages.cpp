@@ -311,7 +311,7 @@ void InsightPagesTest::findingsAreSortedByHowBadTheyAre()
                   severity == Finding::SeverityName(FindingSeverity::Error)));
         last = severity;
     }
-    QVERIFY(Child<QLabel>(page, "lblFindings")->text().contains(QLatin1String("errors")));
+    QVERIFY(Child<QLabel>(page, "lblFindings")->text().contains(QLatin1String("Errors: ")));
 }
 
 void InsightPagesTest::theCoverageIsFilteredByDeviceAndCategory()
