@@ -1,7 +1,6 @@
 #include "client/insight/ExplainPage.h"
 #include "ui_ExplainPage.h"
 
-#include "platform/LXGUI/Theme.h"
 #include "platform/SystemLibrary/QCommon.h"
 #include "scheme_services/evaluation/EventCategories.h"
 #include "scheme_services/evaluation/SchemeExplanation.h"
@@ -11,8 +10,6 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
-
-using LXGUI::Theme;
 
 ExplainPage::ExplainPage(StoredSchemeView& schemes, QWidget* parent)
     : QWidget(parent)

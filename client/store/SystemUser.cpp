@@ -6,7 +6,7 @@
 QString SystemUser::Name()
 {
     for (const char* variable : {"USER", "USERNAME", "LOGNAME"}) {
-        const QString name = qEnvironmentVariable(variable).trimmed();
+        QString name = qEnvironmentVariable(variable).trimmed();
         if (!name.isEmpty())
             return name;
     }

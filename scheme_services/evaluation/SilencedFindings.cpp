@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qint64 MaxBytes = 1024 * 1024;
+constexpr qint64 MaxBytes = qint64(1024) * 1024;
 
 QString WithoutComment(const QString& strLine)
 {
@@ -74,7 +74,7 @@ std::optional<SilencedFindings> SilencedFindings::Read(const QString& strPath, Q
         strProblem = tr("%1 is larger than a list of findings can be.").arg(strName);
         return std::nullopt;
     }
-    const std::optional<SilencedFindings> silenced = Parse(text, strProblem);
+    std::optional<SilencedFindings> silenced = Parse(text, strProblem);
     if (!silenced)
         strProblem = QStringLiteral("%1: %2").arg(strName, strProblem);
     return silenced;

@@ -10,7 +10,7 @@ namespace {
 constexpr qint64 EpochDay = 4;
 
 /// No clock is further from UTC, and none is put further.
-constexpr qint64 WidestOffset = 2 * ArmedWeek::DaySeconds;
+constexpr qint64 WidestOffset = qint64(2) * ArmedWeek::DaySeconds;
 
 QTimeZone ZoneOf(const QDateTime& like)
 {

@@ -6,7 +6,8 @@
 
 #include <sqlite3.h>
 
-/// Collects the tables of the scheme file whose rows are written through connections that are opened during its life.
+/// Collects the tables of the scheme file whose rows are written through connections that are opened during
+/// its life.
 class TouchedTables
 {
 public:
