@@ -63,7 +63,7 @@ void QAlarmDayDetailEditor::SetRegions(const AlarmDefenceTime_t& regions)
     const auto edits = findChildren<QTimeEdit*>();
     for (QTimeEdit* pEdit : edits) {
         const QString strName = pEdit->objectName();
-        const int iRegion = strName.right(1).toInt() - 1;
+        const int iRegion = strName.isEmpty() ? -1 : strName.back().digitValue() - 1;
         if (iRegion < 0 || iRegion >= regions.size()) {
             continue;
         }

@@ -25,7 +25,7 @@ void SetUp(QDataStream& stream)
 /// A null text is equal to an empty one, but a stream tells them apart.
 QString Plain(const QString& strText)
 {
-    return strText.isEmpty() ? QStringLiteral("") : strText;
+    return strText.isEmpty() ? QString(QLatin1String("")) : strText;
 }
 
 /// Calls the reader for each entry of a list; stops at the end of the bytes, whatever the count says.

@@ -31,9 +31,10 @@ CoveragePage::CoveragePage(StoredSchemeView& schemes, QWidget* parent)
     ui->tblFindings->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tblFindings->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
     ui->tblFindings->sortByColumn(FindingsModel::ColumnSeverity, Qt::AscendingOrder);
-    const auto changed = QOverload<int>::of(&QComboBox::currentIndexChanged);
-    connect(ui->cmbDevice, changed, this, &CoveragePage::ShowCoverage);
-    connect(ui->cmbCategory, changed, this, &CoveragePage::ShowCoverage);
+    for (QComboBox* const pFilter : {ui->cmbDevice, ui->cmbCategory}) {
+        connect(pFilter, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                &CoveragePage::ShowCoverage);
+    }
     connect(ui->wndWeek, &WeekHeatMap::SignalPointedAt, ui->lblPointedAt, &QLabel::setText);
     connect(ui->tblFindings, &QAbstractItemView::activated, this, &CoveragePage::OnFindingActivated);
     connect(&m_schemes, &StoredSchemeView::SignalRead, this, &CoveragePage::LookThrough);

@@ -155,7 +155,8 @@ QTreeWidgetItem* HistoryPage::LeftAlone(qint64 iEntry) const
     }
     auto* const pItem = new QTreeWidgetItem(
         {tr("%n scheme(s) were not taken back, because they have changed since:", nullptr, m_left.size())});
-    for (const AlarmSourceKey& key : m_left.mid(0, SchemesListed)) {
+    const QList<AlarmSourceKey> listed = m_left.mid(0, SchemesListed);
+    for (const AlarmSourceKey& key : listed) {
         new QTreeWidgetItem(pItem, {SchemeWords::Name(key, m_site)});
     }
     return pItem;

@@ -39,7 +39,7 @@ void AlarmInfoBytesTest::equalRecordsGiveEqualBytes()
     b.videoSplit.cells[5].X2 = 1;
     // A text that was never set is equal to an empty one.
     a.listDoor = {{QString(), true}};
-    b.listDoor = {{QStringLiteral(""), true}};
+    b.listDoor = {{QString(QLatin1String("")), true}};
     QVERIFY(a == b);
     QCOMPARE(AlarmInfoBytes::Write(a), AlarmInfoBytes::Write(b));
 }

@@ -37,10 +37,10 @@ inline QString Describe(const QAccessibleInterface& item)
 {
     const QObject* const pObject = item.object();
     return QStringLiteral("role %1, %2 \"%3\"")
-        .arg(int(item.role()))
-        .arg(pObject == nullptr ? QStringLiteral("an item")
-                                : QLatin1String(pObject->metaObject()->className()))
-        .arg(pObject == nullptr ? QString() : pObject->objectName());
+        .arg(QString::number(int(item.role())),
+             pObject == nullptr ? QStringLiteral("an item")
+                                : QString(QLatin1String(pObject->metaObject()->className())),
+             pObject == nullptr ? QString() : pObject->objectName());
 }
 
 /// Appends a line for every control without a name, and for every widget that takes the focus without being

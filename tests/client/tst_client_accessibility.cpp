@@ -287,7 +287,8 @@ void TestClientAccessibility::whatIsDisabledLooksDisabled()
 {
     const QuestionDialog dialog({QStringLiteral("Title"), QStringLiteral("Question?"), QStringLiteral("Save"),
                                  QStringLiteral("Discard"), QStringLiteral("Cancel")});
-    for (QAbstractButton* const pButton : dialog.findChildren<QAbstractButton*>()) {
+    const QList<QAbstractButton*> buttons = dialog.findChildren<QAbstractButton*>();
+    for (QAbstractButton* const pButton : buttons) {
         if (pButton->text().isEmpty()) {
             continue;
         }

@@ -98,8 +98,10 @@ private Q_SLOTS:
     {
         const QPointer<QWidget> page(m_page);
         bool bStood = false;
-        connect(m_tabs.get(), &PageTabs::SignalDiscarding, this,
-                [&](QWidget* pPage) { bStood = pPage == m_page && m_page->Text().isEmpty(); });
+        connect(m_tabs.get(), &PageTabs::SignalDiscarding, page.data(),
+                [this, pStood = &bStood](QWidget* pPage) {
+                    *pStood = pPage == m_page && m_page->Text().isEmpty();
+                });
         m_tabs->Discard(m_page);
         QVERIFY(bStood && page.isNull());
         QCOMPARE(m_widget->count(), 1);

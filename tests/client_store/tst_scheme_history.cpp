@@ -61,7 +61,8 @@ struct Reader
     QVector<Kind> Kinds()
     {
         QVector<Kind> kinds;
-        for (const SchemeHistoryEntry& entry : Entries())
+        const QList<SchemeHistoryEntry> entries = Entries();
+        for (const SchemeHistoryEntry& entry : entries)
             kinds.prepend(entry.eKind);
         return kinds;
     }
@@ -207,8 +208,8 @@ void SchemeHistoryTest::whatTheFileHeldBeforeIsTheStart()
     QCOMPARE(client.Save(), 0);
     Reader reader;
     QCOMPARE(reader.Kinds(), (QVector<Kind>{Kind::Start, Kind::Save}));
-    QCOMPARE(reader.Entries().last().iSchemes, 4);
-    QCOMPARE(reader.Entries().first().iSchemes, 1); // the one that was left out is switched off
+    QCOMPARE(reader.Entries().constLast().iSchemes, 4);
+    QCOMPARE(reader.Entries().constFirst().iSchemes, 1); // the one that was left out is switched off
 }
 
 void SchemeHistoryTest::anotherProgramsChangeIsToldAsOutside()
@@ -294,7 +295,7 @@ void SchemeHistoryTest::twoClientsTellOneHistory()
     }
     Reader reader;
     QCOMPARE(reader.Kinds(), QVector<Kind>(7, Kind::Save));
-    QCOMPARE(reader.Entries().first().strWho, QStringLiteral("bert"));
+    QCOMPARE(reader.Entries().constFirst().strWho, QStringLiteral("bert"));
     QVERIFY(reader.history.State() == StoreClient().map);
 }
 
@@ -361,13 +362,13 @@ void SchemeHistoryTest::aStepIsTakenBack()
     client.map[Door(2)].defenceTime[0].clear();
     QCOMPARE(client.Save(), 0);
     client.store.SetAuthor([] { return QStringLiteral("anna"); });
-    QCOMPARE(client.store.Revert(Reader().Entries().first().iId, QStringLiteral("2")), 0);
+    QCOMPARE(client.store.Revert(Reader().Entries().constFirst().iId, QStringLiteral("2")), 0);
     client.store.WaitForSaves();
     QVERIFY(client.saves.last().IsSuccess());
     QCOMPARE(client.saves.last().iSchemes, 2);
     QCOMPARE(client.iReloads, 1);
     QVERIFY(client.map == Map(3));
-    const SchemeHistoryEntry entry = Reader().Entries().first();
+    const SchemeHistoryEntry entry = Reader().Entries().constFirst();
     QVERIFY(entry.eKind == Kind::Revert);
     QCOMPARE(entry.strWho, QStringLiteral("anna"));
     QCOMPARE(entry.strNote, QStringLiteral("2"));
@@ -380,7 +381,7 @@ void SchemeHistoryTest::takingBackANewSchemeRemovesIt()
     QCOMPARE(client.Save(), 0);
     client.map = Map(2);
     QCOMPARE(client.Save(), 0);
-    QCOMPARE(client.store.Revert(Reader().Entries().first().iId, QString()), 0);
+    QCOMPARE(client.store.Revert(Reader().Entries().constFirst().iId, QString()), 0);
     client.store.WaitForSaves();
     QVERIFY(StoreClient().map == Map(1));
 }
@@ -393,7 +394,7 @@ void SchemeHistoryTest::schemesThatHaveChangedSinceAreLeftAloneAndCounted()
     for (AlarmInfo& info : client.map)
         info.bSendEmail = true;
     QCOMPARE(client.Save(), 0);
-    const qint64 step = Reader().Entries().first().iId;
+    const qint64 step = Reader().Entries().constFirst().iId;
     client.map[Door(1)].bEmapTwinkle = true;
     QCOMPARE(client.Save(), 0);
     QCOMPARE(client.store.Revert(step, QString()), 0);
@@ -415,7 +416,7 @@ void SchemeHistoryTest::takingBackTheTakingBackBringsTheStepAgain()
     const AlarmInfoMap changed = client.map;
     QCOMPARE(client.Save(), 0);
     for (int time = 0; time < 2; ++time) {
-        QCOMPARE(client.store.Revert(Reader().Entries().first().iId, QString()), 0);
+        QCOMPARE(client.store.Revert(Reader().Entries().constFirst().iId, QString()), 0);
         client.store.WaitForSaves();
     }
     QVERIFY(client.map == changed);
@@ -442,7 +443,7 @@ void SchemeHistoryTest::takingBackIsForTheEditorsAChangeByOthers()
     client.map[Door(0)].bSendEmail = true;
     QCOMPARE(client.Save(), 0);
     client.store.SetReloadHandler({}); // the page still shows what was there before
-    QCOMPARE(client.store.Revert(Reader().Entries().first().iId, QString()), 0);
+    QCOMPARE(client.store.Revert(Reader().Entries().constFirst().iId, QString()), 0);
     client.store.WaitForSaves();
     client.map[Door(0)].bOpenSound = false;
     QCOMPARE(client.Save(), -1);
@@ -462,9 +463,9 @@ void SchemeHistoryTest::anExactReplacementDeletesTheOthers()
     QCOMPARE(result.iSchemes, 6); // one changed, one new, four gone
     QVERIFY(StoreClient().map == wanted);
     Reader reader;
-    QVERIFY(reader.Entries().first().eKind == Kind::Import);
-    QCOMPARE(reader.Entries().first().strWho, QStringLiteral("carl"));
-    QCOMPARE(reader.Entries().first().strNote, QStringLiteral("a file"));
+    QVERIFY(reader.Entries().constFirst().eKind == Kind::Import);
+    QCOMPARE(reader.Entries().constFirst().strWho, QStringLiteral("carl"));
+    QCOMPARE(reader.Entries().constFirst().strNote, QStringLiteral("a file"));
     QVERIFY(reader.history.State() == wanted);
     // An empty list is the empty file.
     QCOMPARE(Replace(schemes, {}, std::nullopt).iSchemes, 2);

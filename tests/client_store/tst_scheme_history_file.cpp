@@ -143,7 +143,8 @@ void SchemeHistoryFileTest::additionsChangesAndRemovalsLeadFromOneMapToTheOther(
     for (quint32 seed = 1; seed <= 50; ++seed) {
         AlarmInfoMap before = RandomSchemes(seed).Map();
         const AlarmInfoMap after = RandomSchemes(seed + 1000).Map();
-        for (const SchemeHistoryChange& change : SchemeHistoryBetween(before, after)) {
+        const SchemeHistoryChanges changes = SchemeHistoryBetween(before, after);
+        for (const SchemeHistoryChange& change : changes) {
             QCOMPARE(before.contains(change.key), change.before.has_value());
             QVERIFY(!change.before || before.value(change.key) == *change.before);
             if (change.after)
@@ -219,7 +220,7 @@ void SchemeHistoryFileTest::aCopyToTenThousandDoorsTakesLittle()
     QVERIFY(writer.Append(Entry(QString()), map));
     const qint64 size = QFileInfo(writer.strPath).size();
     // The step itself and the state behind it: some bytes a scheme, and not its record.
-    QVERIFY2(size < map.size() * 20, qPrintable(QString::number(size)));
+    QVERIFY2(size < qint64(map.size()) * 20, qPrintable(QString::number(size)));
 }
 
 void SchemeHistoryFileTest::aStepWhoseTransactionIsRolledBackLeavesNothing()
@@ -293,7 +294,7 @@ void SchemeHistoryFileTest::recordsThatAreStillToldOfStay()
     QVERIFY(writer.Append(Entry(QString(), 2), {{Door(1), AlarmInfo()}, {Door(2), kept}}));
     QVERIFY(writer.Append(Entry(QString(), 3), {{Door(2), kept}}));
     QVERIFY(writer.history.DropBefore(Entry(QString(), 3).time));
-    const auto changes = writer.history.Changes(writer.history.Entries(1)->first().iId);
+    const auto changes = writer.history.Changes(writer.history.Entries(1)->constFirst().iId);
     QVERIFY(changes && changes->size() == 1 && *changes->at(0).before == AlarmInfo());
     QCOMPARE(writer.database.Value(QStringLiteral("select count(*) from SchemeHistory.Records")),
              QStringLiteral("2")); // the fresh one and the kept one; nobody knows the old one
@@ -362,7 +363,7 @@ void SchemeHistoryFileTest::aHistoryIsReadAlone()
     RawDatabase alone(path);
     SchemeHistoryFile history(alone.Handle(), SchemeHistoryFile::Place::Main);
     QVERIFY(history.IsSound());
-    QCOMPARE(history.Entries(1)->first().strWho, QStringLiteral("anna"));
+    QCOMPARE(history.Entries(1)->constFirst().strWho, QStringLiteral("anna"));
     QVERIFY(history.State() == map);
 }
 
