@@ -400,7 +400,6 @@ void TestNothingLost::aSessionThatEndsWithoutAQuestionKeepsADraft()
     QVERIFY(SwitchOn(*m_driver));
     m_driver->End(); // as the end of a session that waits for nobody
     QCOMPARE(Drafts().size(), 1);
-    QString strQuestion;
     m_driver = std::make_unique<ClientDriver>(m_data->path());
     m_driver->AnswerDialogs({Press("btnKeep")});
     QVERIFY(m_driver->Start());

@@ -150,7 +150,8 @@ void TestAcsScheme::everyCommandHasHelpAndASentence()
     // Name and sentence stand two blanks apart, below the word that heads them.
     const QStringList lines = Run(Words("--help")).out.split(QLatin1Char('\n'));
     int commands = 0;
-    for (const QString& strLine : lines.mid(lines.indexOf(QStringLiteral("Commands:")) + 1)) {
+    const QStringList listed = lines.mid(lines.indexOf(QStringLiteral("Commands:")) + 1);
+    for (const QString& strLine : listed) {
         if (!strLine.startsWith(QStringLiteral("  ")))
             break;
         const QString strName = strLine.trimmed().section(QLatin1Char(' '), 0, 0);
