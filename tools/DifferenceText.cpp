@@ -1,5 +1,6 @@
 #include "tools/DifferenceText.h"
 
+#include "scheme_services/evaluation/SchemeWords.h"
 #include "scheme_services/exchange/ShownText.h"
 #include "tools/SchemeText.h"
 
@@ -55,7 +56,7 @@ QString DifferenceText::Value(const QString& strField, const QJsonValue& value)
                 regions.append(AlarmTimeRegion{region.toObject().value(QStringLiteral("Begin")).toInt(),
                                                region.toObject().value(QStringLiteral("End")).toInt()});
             }
-            return SchemeText::Day(regions);
+            return SchemeWords::Day(regions);
         }
         return ShownText(QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact)));
     }
@@ -79,7 +80,7 @@ QString DifferenceText::Field(const SchemeFieldDifference& field)
 QString DifferenceText::Scheme(const AlarmSourceKey& key, const SiteIndex& site)
 {
     return QStringLiteral("%1 [%2, %3]")
-        .arg(ShownText(SchemeText::Name(key, site)), ShownText(key.strEventSource),
+        .arg(ShownText(SchemeWords::Name(key, site)), ShownText(key.strEventSource),
              QString::number(key.AlarmType));
 }
 

@@ -1,6 +1,7 @@
 #include "tools/ExplainCommand.h"
 
 #include "scheme_services/evaluation/SchemeExplanation.h"
+#include "scheme_services/evaluation/SchemeWords.h"
 #include "tools/JsonList.h"
 #include "tools/MomentArgument.h"
 #include "tools/SchemeInput.h"
@@ -115,12 +116,12 @@ void ExplainCommand::Write(const SchemeExplanation& explanation, const AlarmSour
 {
     SchemeText::Line(out,
                      tr("%1, %2", "source and event, time")
-                         .arg(SchemeText::Name(asked, site), SchemeExplanation::MomentText(explanation.at)));
+                         .arg(SchemeWords::Name(asked, site), SchemeExplanation::MomentText(explanation.at)));
     SchemeText::Line(out, explanation.Sentence());
     if (explanation.key && explanation.key->strEventSource != asked.strEventSource)
         out << tr("A device has one scheme for this event, whichever door it comes from.") << '\n';
     if (explanation.verdict == SchemeVerdict::Armed) {
-        const QStringList reactions = SchemeText::Reactions(explanation.reactions, site);
+        const QStringList reactions = SchemeWords::Reactions(explanation.reactions, site);
         out << (reactions.isEmpty() ? tr("It does nothing.") : tr("It does this:")) << '\n';
         for (const QString& strReaction : reactions)
             SchemeText::Line(out, QStringLiteral("  ") + strReaction);

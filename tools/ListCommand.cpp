@@ -1,5 +1,6 @@
 #include "tools/ListCommand.h"
 
+#include "scheme_services/evaluation/SchemeWords.h"
 #include "tools/JsonList.h"
 #include "tools/SchemeInput.h"
 #include "tools/SchemeText.h"
@@ -101,7 +102,7 @@ int ListCommand::Run(const QStringList& arguments, CommandEnvironment& environme
         on += scheme->bOpen ? 1 : 0;
         const QStringList columns{state(scheme->bOpen), scheme.key().strEventSource.leftJustified(width),
                                   QString::number(scheme.key().AlarmType).leftJustified(TypeWidth),
-                                  SchemeText::Name(scheme.key(), input.site)};
+                                  SchemeWords::Name(scheme.key(), input.site)};
         SchemeText::Line(environment.out, columns.join(QStringLiteral("  ")));
     }
     environment.out << tr("Schemes: %1, switched on: %2").arg(schemes.size()).arg(on) << '\n';

@@ -1,7 +1,6 @@
 #include "tools/SchemeText.h"
 
 #include "platform/SystemLibrary/QCommon.h"
-#include "scheme_services/evaluation/SchemeWords.h"
 
 #include <QJsonArray>
 #include <QTextStream>
@@ -29,21 +28,6 @@ void SchemeText::Line(QTextStream& out, const QString& strText)
         }
     }
     out << strShown << '\n';
-}
-
-QString SchemeText::Name(const AlarmSourceKey& key, const SiteIndex& site)
-{
-    return SchemeWords::Name(key, site);
-}
-
-QStringList SchemeText::Reactions(const SchemeReactions& reactions, const SiteIndex& site)
-{
-    return SchemeWords::Reactions(reactions, site);
-}
-
-QString SchemeText::Day(const AlarmDefenceTime_t& regions)
-{
-    return SchemeWords::Day(regions);
 }
 
 QJsonObject SchemeText::KeyJson(const AlarmSourceKey& key, const SiteIndex& site)

@@ -1,5 +1,6 @@
 #include "tools/ShowCommand.h"
 
+#include "scheme_services/evaluation/SchemeWords.h"
 #include "scheme_services/exchange/SchemeTextWriter.h"
 #include "tools/SchemeInput.h"
 #include "tools/SchemeText.h"
@@ -46,7 +47,7 @@ int ShowCommand::Run(const QStringList& arguments, CommandEnvironment& environme
     const auto scheme = key ? input.schemes.constFind(*key) : input.schemes.constEnd();
     if (scheme == input.schemes.constEnd()) {
         environment.err
-            << tr("There is no scheme for %1.").arg(SchemeText::Name({*strSource, *type}, input.site))
+            << tr("There is no scheme for %1.").arg(SchemeWords::Name({*strSource, *type}, input.site))
             << '\n';
         return ExitCode::Finding;
     }
@@ -81,7 +82,7 @@ QStringList ShowCommand::Lines(const AlarmSourceKey& key, const AlarmInfo& info,
 {
     const auto yesNo = [](bool bYes) { return bYes ? tr("yes") : tr("no"); };
     const QString strIndent = QStringLiteral("  ");
-    QStringList lines{SchemeText::Name(key, site),
+    QStringList lines{SchemeWords::Name(key, site),
                       tr("Key: %1, event type %2").arg(key.strEventSource, QString::number(key.AlarmType)),
                       tr("Switched on: %1").arg(yesNo(info.bOpen)),
                       tr("Sound: %1").arg(yesNo(info.bOpenSound)),
@@ -117,7 +118,7 @@ QStringList ShowCommand::Lines(const AlarmSourceKey& key, const AlarmInfo& info,
     for (int day = 0; day < AlarmWeek::DayCount; ++day) {
         lines += strIndent + tr("%1: %2", "day of the week, regions")
                                  .arg(QLocale().standaloneDayName(day == 0 ? 7 : day),
-                                      SchemeText::Day(info.defenceTime[day]));
+                                      SchemeWords::Day(info.defenceTime[day]));
     }
     return lines;
 }

@@ -1,6 +1,7 @@
 #include "tools/WhoSwitchesCommand.h"
 
 #include "scheme_services/evaluation/OutputUse.h"
+#include "scheme_services/evaluation/SchemeWords.h"
 #include "tools/JsonList.h"
 #include "tools/SchemeInput.h"
 #include "tools/SchemeText.h"
@@ -65,7 +66,7 @@ int WhoSwitchesCommand::Run(const QStringList& arguments, CommandEnvironment& en
             SchemeText::Line(environment.out,
                              QStringLiteral("  ") +
                                  tr("%1: %2", "scheme, whether and how long it switches the output on")
-                                     .arg(SchemeText::Name(use.key, input.site), State(use)));
+                                     .arg(SchemeWords::Name(use.key, input.site), State(use)));
         }
     }
     const bool switched =
