@@ -22,6 +22,7 @@
 #include "platform/SystemLibrary/QCommon.h"
 #include "platform/SystemLibrary/QSystem.h"
 #include "platform/SystemLibrary/SystemPaths.h"
+#include "platform/SystemLibrary/WholeFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -29,7 +30,6 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QLocale>
-#include <QSaveFile>
 #include <QStyleFactory>
 #include <QTimer>
 
@@ -143,7 +143,7 @@ int ClientApplication::Run()
 
 bool ClientApplication::SavePicture(const QString& strFile)
 {
-    QSaveFile file(strFile);
+    WholeFile file(strFile);
     if (!file.open(QIODevice::WriteOnly) || !m_window->grab().save(&file, "PNG") || !file.commit()) {
         m_strError = tr("The picture %1 cannot be written: %2")
                          .arg(QDir::toNativeSeparators(strFile), file.errorString());

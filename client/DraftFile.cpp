@@ -1,11 +1,12 @@
 #include "client/DraftFile.h"
 
+#include "platform/SystemLibrary/WholeFile.h"
+
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QLockFile>
-#include <QSaveFile>
 #include <QUrl>
 
 namespace {
@@ -129,7 +130,7 @@ bool DraftFile::Read(Draft& draft, QString& strError) const
 bool DraftFile::Write(const QString& strPath, const Draft& draft, QString& strError)
 {
     const QByteArray body = BodyOf(draft);
-    QSaveFile file(strPath);
+    WholeFile file(strPath);
     if (file.open(QIODevice::WriteOnly)) {
         QDataStream stream(&file);
         stream.setVersion(QDataStream::Qt_5_12);

@@ -1,11 +1,12 @@
 #include "client/mail/MailPasswords.h"
 
+#include "platform/SystemLibrary/WholeFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace {
 
@@ -52,7 +53,7 @@ bool MailPasswords::Keep(const SystemMailSettings& settings, QString& strReason)
         return bGone;
     }
     const QByteArray text = QJsonDocument(passwords).toJson();
-    QSaveFile file(m_strFile);
+    WholeFile file(m_strFile);
     // The rights are set before the first byte is there to be read.
     const bool bWritten = file.open(QIODevice::WriteOnly) &&
                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&

@@ -2,11 +2,11 @@
 
 #include "platform/SiteLibrary/SiteReader.h"
 #include "platform/SiteLibrary/SiteRules.h"
+#include "platform/SystemLibrary/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
@@ -155,12 +155,8 @@ bool Write(const QString& strPath, const Site& site, SiteFileError& error)
     Site readBack;
     if (!Parse(text, strPath, readBack, error))
         return false;
-    QSaveFile file(strPath);
-    if (!file.open(QIODevice::WriteOnly))
-        return Fail(error, strPath, file.errorString());
-    if (file.write(text) != text.size() || !file.commit())
-        return Fail(error, strPath, file.errorString());
-    return true;
+    QString reason;
+    return WholeFile::Write(strPath, text, reason) || Fail(error, strPath, reason);
 }
 
 } // namespace SiteFile

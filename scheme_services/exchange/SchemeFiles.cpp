@@ -1,13 +1,13 @@
 #include "scheme_services/exchange/SchemeFiles.h"
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeStoreReader.h"
+#include "platform/SystemLibrary/WholeFile.h"
 #include "scheme_services/exchange/SchemeTextReader.h"
 #include "scheme_services/exchange/SchemeTextWriter.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -73,20 +73,10 @@ SchemeFileProblems SchemeFiles::Read(const QString& strPath, AlarmInfoMap& map, 
 SchemeFileProblems SchemeFiles::WriteText(const QString& strPath, const AlarmInfoMap& map,
                                           const Progress& progress)
 {
-    const QFileInfo info(strPath);
-    // A device must not be replaced by a file.
-    if (info.exists() && !info.isFile())
-        return Problem(strPath, tr("this is no file"));
-    // The file appears whole at the end, or not at all.
-    QSaveFile file(strPath);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    WholeFile file(strPath);
+    if (!file.open(QIODevice::WriteOnly))
         return Problem(strPath, file.errorString());
-    // Where only a part finds room, the reason is told to whoever tries the rest.
-    const auto put = [&file](const QByteArray& piece) {
-        const qint64 written = file.write(piece);
-        return written == piece.size() ||
-               (written >= 0 && file.write(piece.mid(static_cast<int>(written))) == piece.size() - written);
-    };
+    const auto put = [&file](const QByteArray& piece) { return file.write(piece) == piece.size(); };
     SchemeTextWriter writer;
     if (progress)
         writer.SetProgress([&progress](int iDone, int iAll) { progress(iDone, iAll); });

@@ -1,12 +1,12 @@
 #include "scheme_services/site/SiteImport.h"
 
 #include "platform/SiteLibrary/SiteFile.h"
+#include "platform/SystemLibrary/WholeFile.h"
 #include "scheme_services/site/SiteTable.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -135,10 +135,8 @@ QByteArray SiteImport::ToText(const Site& site, SiteForm eForm)
 
 bool SiteImport::Export(const QString& strPath, const Site& site, SiteForm eForm, QString& strReason)
 {
-    const QByteArray text = ToText(site, eForm);
-    QSaveFile file(strPath);
-    const bool bWritten = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    return bWritten || Fail(strReason, strPath, file.errorString());
+    QString strWhy;
+    return WholeFile::Write(strPath, ToText(site, eForm), strWhy) || Fail(strReason, strPath, strWhy);
 }
 
 SiteForm SiteImport::FormOfFile(const QString& strPath)

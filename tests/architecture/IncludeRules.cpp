@@ -114,7 +114,7 @@ std::vector<Room> MakeRooms()
     rooms.push_back({Text("scheme_services/site/"),
                      QtReach::Core,
                      false,
-                     {Text("platform/VantaLogic/"), Text("platform/SiteLibrary/")}});
+                     {systemLibrary, Text("platform/VantaLogic/"), Text("platform/SiteLibrary/")}});
     rooms.push_back(
         {Text("scheme_services/"), QtReach::Core, false, {records, store, systemLibrary, evaluation}});
     rooms.push_back(

@@ -1,9 +1,12 @@
 #include "client/DraftFile.h"
+#include "tests/SystemLibrary/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <cerrno>
 
 class TestDraftFile : public QObject
 {
@@ -55,6 +58,27 @@ private Q_SLOTS:
         QVERIFY(!DraftFile::Write(file.fileName() + QStringLiteral("/x.draft"), Some(), strError));
         QVERIFY(!strError.isEmpty());
         QVERIFY(DraftFile::Orphans(file.fileName()).empty());
+    }
+    void aFullDiskIsToldAsSuchAndKeepsTheEarlierDraft()
+    {
+#ifdef Q_OS_UNIX
+        const std::unique_ptr<DraftFile> file = Free();
+        QString strError;
+        QVERIFY(DraftFile::Write(file->Path(), Some(), strError));
+        Draft large = Some();
+        large.content = QByteArray(1000000, 'x');
+        bool bWritten = true;
+        {
+            const FullDisk disk(100000);
+            QVERIFY(disk.Holds());
+            bWritten = DraftFile::Write(file->Path(), large, strError);
+        }
+        QVERIFY(!bWritten);
+        QCOMPARE(strError, qt_error_string(EFBIG));
+        Draft read;
+        QVERIFY(file->Read(read, strError));
+        QCOMPARE(read.content, Some().content);
+#endif
     }
     void moduleKeysMayHoldWhatFileNamesMayNot()
     {
@@ -190,7 +214,10 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<DraftFile> Free() const { return DraftFile::Free(m_folder->path(), m_strModule); }
+    std::unique_ptr<DraftFile> Free() const
+    {
+        return DraftFile::Free(m_folder->path(), m_strModule);
+    }
     Draft Some() const
     {
         return {m_strModule, QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 89), Qt::UTC), 314,

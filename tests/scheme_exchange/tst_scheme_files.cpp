@@ -2,14 +2,15 @@
 #include "scheme_services/exchange/SchemeFiles.h"
 #include "tests/AlarmSchemeData/OracleRounds.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/SystemLibrary/FullDisk.h"
 #include "tests/scheme_exchange/SchemeTexts.h"
 
 #include <QTest>
 
 #ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <cerrno>
 #endif
 
 namespace {
@@ -175,21 +176,17 @@ void TestSchemeFiles::whatCannotBeWrittenLeavesTheFileThatWasThere()
 void TestSchemeFiles::aFullDiskLeavesNoHalfFile()
 {
 #ifdef Q_OS_UNIX
-    // No file may grow beyond that; what is written is refused in the middle, as on a full disk.
     const QTemporaryDir folder;
     const QString path = In(folder, "export.json");
     Write(path, "before");
-    struct rlimit old = {};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
-    struct rlimit small = old;
-    small.rlim_cur = 200000;
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const SchemeFileProblems problems = SchemeFiles::WriteText(path, Doors(2000));
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &old), 0);
-    std::signal(SIGXFSZ, oldHandler);
+    SchemeFileProblems problems;
+    {
+        const FullDisk disk(200000);
+        QVERIFY(disk.Holds());
+        problems = SchemeFiles::WriteText(path, Doors(2000));
+    }
     QCOMPARE(problems.size(), 1);
-    QVERIFY(!problems.first().strReason.isEmpty());
+    QCOMPARE(problems.first().strReason, qt_error_string(EFBIG));
     QCOMPARE(Bytes(path), QByteArray("before"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     QVERIFY(SchemeTexts::Write(Doors(2000)).size() > 250 * 1024);

@@ -1,4 +1,5 @@
 #include "scheme_services/site/SiteTable.h"
+#include "tests/SystemLibrary/FullDisk.h"
 #include "tests/site_exchange/SiteSamples.h"
 #include "tests/tools/CommandKit.h"
 
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <memory>
 
 class TestSiteCommands : public QObject
@@ -30,6 +32,9 @@ private Q_SLOTS:
     void anExportImportsAsNothing_data();
     void anExportImportsAsNothing();
     void anExportGoesToTheStandardOutput();
+    void aFullDiskIsToldAsSuch_data();
+    void aFullDiskIsToldAsSuch();
+    void whatIsNoFileIsNotReplaced();
 
 private:
     QString File(const char* szName) const { return m_directory->filePath(QLatin1String(szName)); }
@@ -281,6 +286,52 @@ void TestSiteCommands::anExportGoesToTheStandardOutput()
         QStringList{QStringLiteral("export-site"), QStringLiteral("--format"), QStringLiteral("json")} +
         site);
     QCOMPARE(json.out.toUtf8(), m_before);
+}
+
+void TestSiteCommands::aFullDiskIsToldAsSuch_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("a made site") << QStringList{QStringLiteral("make-site"), QStringLiteral("--doors"),
+                                                QStringLiteral("50")};
+    QTest::newRow("an exported table")
+        << QStringList{QStringLiteral("export-site"), QStringLiteral("--format"), QStringLiteral("csv")};
+    QTest::newRow("an exported site file")
+        << QStringList{QStringLiteral("export-site"), QStringLiteral("--format"), QStringLiteral("json")};
+}
+
+void TestSiteCommands::aFullDiskIsToldAsSuch()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(QStringList, command);
+    if (command.constFirst() == QLatin1String("export-site")) {
+        command += {QStringLiteral("--site"), File("site.json")};
+    }
+    Write("out", "before");
+    const int iFiles = Files();
+    std::unique_ptr<Run> run;
+    {
+        const FullDisk disk(100); // there is room for a part
+        QVERIFY(disk.Holds());
+        run = std::make_unique<Run>(command + QStringList{QStringLiteral("--output"), File("out")});
+    }
+    QCOMPARE(run->code, 3);
+    QCOMPARE(run->err, QDir::toNativeSeparators(File("out")) + QStringLiteral(": ") + qt_error_string(EFBIG) +
+                           QLatin1Char('\n'));
+    QCOMPARE(Content(File("out")), QByteArray("before"));
+    QCOMPARE(Files(), iFiles);
+#endif
+}
+
+void TestSiteCommands::whatIsNoFileIsNotReplaced()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir(QStringLiteral("folder")));
+    for (const QStringList& command :
+         {QStringList{QStringLiteral("make-site"), QStringLiteral("--doors"), QStringLiteral("5")},
+          QStringList{QStringLiteral("export-site"), QStringLiteral("--site"), File("site.json")}}) {
+        const Run run(command + QStringList{QStringLiteral("--output"), File("folder")});
+        QCOMPARE(run.code, 3);
+        QVERIFY2(run.err.contains(QLatin1String("this is no file")), qPrintable(run.err));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSiteCommands)
