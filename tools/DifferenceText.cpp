@@ -1,7 +1,7 @@
 #include "tools/DifferenceText.h"
 
+#include "platform/SystemLibrary/ShownText.h"
 #include "scheme_services/evaluation/SchemeWords.h"
-#include "scheme_services/exchange/ShownText.h"
 #include "tools/SchemeText.h"
 
 #include <QJsonArray>
@@ -40,7 +40,7 @@ QString DifferenceText::Value(const QString& strField, const QJsonValue& value)
     case QJsonValue::Double:
         return QString::number(value.toInt());
     case QJsonValue::String:
-        return value.toString().isEmpty() ? tr("empty") : ShownText(value.toString());
+        return value.toString().isEmpty() ? tr("empty") : ShownText::Short(value.toString());
     case QJsonValue::Object: {
         QStringList parts;
         const QJsonObject object = value.toObject();
@@ -58,7 +58,8 @@ QString DifferenceText::Value(const QString& strField, const QJsonValue& value)
             }
             return SchemeWords::Day(regions);
         }
-        return ShownText(QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact)));
+        return ShownText::Short(
+            QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact)));
     }
     default:
         return tr("none");
@@ -67,7 +68,7 @@ QString DifferenceText::Value(const QString& strField, const QJsonValue& value)
 
 QString DifferenceText::Field(const SchemeFieldDifference& field)
 {
-    QString name = ShownText(field.strField);
+    QString name = ShownText::Short(field.strField);
     if (field.strField.startsWith(DayField)) {
         // The locale counts Monday as 1 and Sunday as 7.
         const int day = field.strField.at(DayField.size()).digitValue();
@@ -80,7 +81,7 @@ QString DifferenceText::Field(const SchemeFieldDifference& field)
 QString DifferenceText::Scheme(const AlarmSourceKey& key, const SiteIndex& site)
 {
     return QStringLiteral("%1 [%2, %3]")
-        .arg(ShownText(SchemeWords::Name(key, site)), ShownText(key.strEventSource),
+        .arg(ShownText::Short(SchemeWords::Name(key, site)), ShownText::Short(key.strEventSource),
              QString::number(key.AlarmType));
 }
 

@@ -1,7 +1,7 @@
 #include "tools/HistoryText.h"
 
 #include "client/store/SchemeHistoryReader.h"
-#include "scheme_services/exchange/ShownText.h"
+#include "platform/SystemLibrary/ShownText.h"
 #include "tools/Command.h"
 
 #include <QTextStream>
@@ -40,7 +40,7 @@ std::optional<qint64> HistoryText::Number(const QString& strText, CommandEnviron
     const qint64 step = strText.toLongLong(&number);
     if (digits && number && step > 0 && step < std::numeric_limits<qint64>::max())
         return step;
-    environment.err << tr("\"%1\" is no number of a step.").arg(ShownText(strText)) << '\n';
+    environment.err << tr("\"%1\" is no number of a step.").arg(ShownText::Short(strText)) << '\n';
     return std::nullopt;
 }
 
@@ -51,12 +51,13 @@ QString HistoryText::Time(const SchemeHistoryEntry& entry)
 
 QString HistoryText::Line(const SchemeHistoryEntry& entry)
 {
-    const QString who = entry.strWho.isEmpty() ? tr("unknown") : ShownText(entry.strWho);
+    const QString who = entry.strWho.isEmpty() ? tr("unknown") : ShownText::Short(entry.strWho);
     const QString line = tr("%1  %2  %3, %4, schemes: %5", "number, time, who, what")
                              .arg(entry.iId)
                              .arg(Time(entry), who, SchemeHistoryReader::KindName(entry.eKind))
                              .arg(entry.iSchemes);
-    return entry.strNote.isEmpty() ? line : line + QStringLiteral(" (%1)").arg(ShownText(entry.strNote));
+    return entry.strNote.isEmpty() ? line
+                                   : line + QStringLiteral(" (%1)").arg(ShownText::Short(entry.strNote));
 }
 
 QJsonObject HistoryText::Json(const SchemeHistoryEntry& entry)

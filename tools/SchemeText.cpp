@@ -1,33 +1,14 @@
 #include "tools/SchemeText.h"
 
 #include "platform/SystemLibrary/QCommon.h"
+#include "platform/SystemLibrary/ShownText.h"
 
 #include <QJsonArray>
 #include <QTextStream>
 
-namespace {
-
-bool IsHarmful(QChar character)
-{
-    const auto code = uint{character.unicode()};
-    return character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
-           character.category() == QChar::Separator_Paragraph || (code >= 0x202A && code <= 0x202E) ||
-           (code >= 0x2066 && code <= 0x2069);
-}
-
-} // namespace
-
 void SchemeText::Line(QTextStream& out, const QString& strText)
 {
-    QString strShown;
-    for (const QChar character : strText) {
-        if (IsHarmful(character)) {
-            strShown += QStringLiteral("\\u%1").arg(uint{character.unicode()}, 4, 16, QLatin1Char('0'));
-        } else {
-            strShown += character;
-        }
-    }
-    out << strShown << '\n';
+    out << ShownText::Whole(strText) << '\n';
 }
 
 QJsonObject SchemeText::KeyJson(const AlarmSourceKey& key, const SiteIndex& site)

@@ -1,6 +1,6 @@
 #include "client/mail/MailOutcome.h"
 
-#include <algorithm>
+#include "platform/SystemLibrary/ShownText.h"
 
 namespace {
 
@@ -10,9 +10,7 @@ constexpr int LongestLine = 200;
 
 QString MailOutcome::CleanLine(const QByteArray& line)
 {
-    QString strLine = QString::fromUtf8(line);
-    std::replace_if(
-        strLine.begin(), strLine.end(), [](QChar c) { return !c.isPrint(); }, QLatin1Char(' '));
+    const QString strLine = ShownText::Visible(QString::fromUtf8(line), QLatin1Char(' '));
     return strLine.simplified().left(LongestLine);
 }
 

@@ -1,7 +1,7 @@
 #include "scheme_services/exchange/SchemeTextHandler.h"
 
+#include "platform/SystemLibrary/ShownText.h"
 #include "scheme_services/exchange/SchemeTextRules.h"
-#include "scheme_services/exchange/ShownText.h"
 
 #include <algorithm>
 #include <limits>
@@ -183,8 +183,9 @@ bool SchemeTextHandler::Key(const char* text, rapidjson::SizeType length, bool)
     const int field = FindField(level.eScope, QByteArray::fromRawData(text, size));
     level.iField = NoField;
     if (field == NoField) {
-        return Complain(m_stream.Line(),
-                        tr("there is no field \"%1\" here").arg(ShownText(QString::fromUtf8(text, size))));
+        return Complain(
+            m_stream.Line(),
+            tr("there is no field \"%1\" here").arg(ShownText::Short(QString::fromUtf8(text, size))));
     }
     const unsigned bit = 1U << static_cast<unsigned>(field);
     if ((level.iSeen & bit) != 0)
@@ -383,7 +384,7 @@ void SchemeTextHandler::FinishAlarmOutLink(const Level& level)
 {
     const QString& output = m_draft.alarmOut.strLinkAlarmID;
     if (m_outputs.contains(output)) {
-        Complain(level.iLine, tr("the output \"%1\" is linked twice").arg(ShownText(output)));
+        Complain(level.iLine, tr("the output \"%1\" is linked twice").arg(ShownText::Short(output)));
         return;
     }
     m_outputs.insert(output);
@@ -396,7 +397,7 @@ void SchemeTextHandler::FinishDoor(const Level& level)
         return;
     const QString& door = m_draft.door.strDoorID;
     if (!SchemeTextRules::IsDoorNumber(door)) {
-        Complain(level.iLine, tr("the door \"%1\" is no whole number").arg(ShownText(door)));
+        Complain(level.iLine, tr("the door \"%1\" is no whole number").arg(ShownText::Short(door)));
         return;
     }
     if (m_doors.contains(door)) {
@@ -460,7 +461,7 @@ void SchemeTextHandler::FinishScheme(const Level& level)
     }
     if (m_map.contains(key)) {
         Complain(level.iLine, tr("the scheme %1, event type %2, is listed twice")
-                                  .arg(ShownText(key.strEventSource))
+                                  .arg(ShownText::Short(key.strEventSource))
                                   .arg(key.AlarmType));
         return;
     }

@@ -1,6 +1,7 @@
 #include "scheme_services/site/SiteTableFields.h"
 
 #include "platform/SiteLibrary/SiteRules.h"
+#include "platform/SystemLibrary/ShownText.h"
 
 #include <algorithm>
 #include <vector>
@@ -119,10 +120,7 @@ std::optional<int64_t> NumberOf(const QString& strCell, int64_t iMin, int64_t iM
 
 QString Shown(const QString& strText)
 {
-    QString strShown = strText.left(LongestShown);
-    std::replace_if(
-        strShown.begin(), strShown.end(), [](QChar c) { return !c.isPrint(); }, QLatin1Char(' '));
-    return strText.size() > LongestShown ? strShown + QChar(0x2026) : strShown;
+    return ShownText::Short(strText, LongestShown, QLatin1Char(' '));
 }
 
 } // namespace SiteTableFields
