@@ -2,6 +2,7 @@
 
 #include "platform/VantaComponent/GroupTreeCtrlPrivate.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMetaType>
@@ -175,10 +176,15 @@ void GroupTreeCtrl::changeEvent(QEvent* event)
 // Keys that nobody in the tree has taken; a host's shortcut comes before.
 void GroupTreeCtrl::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Find))
+    if (event->matches(QKeySequence::Find)) {
         FocusSearch();
-    else
+    } else if (event->key() == Qt::Key_Down && d->ui.edtSearch->hasFocus()) {
+        d->ui.treeDevices->setFocus(Qt::TabFocusReason);
+        if (!GetSelectedItem())
+            QCoreApplication::sendEvent(d->ui.treeDevices, event);
+    } else {
         QWidget::keyPressEvent(event);
+    }
 }
 
 } // namespace VantaComponent

@@ -55,7 +55,8 @@ public:
     /// Selects the node of this id and kind by program (no signal); false when the tree does not show it.
     bool SelectNode(int64_t iNodeId, int32_t iNodeKind);
     void ClearSearch(); ///< as emptying the search field does
-    /// Puts the keyboard into the search field, with its text selected. Ctrl+F in the tree does the same.
+    /// Puts the keyboard into the search field, with its text selected. Ctrl+F in the tree does the same. The
+    /// down key leads from the field into the tree: to the selected row, or to the first one when none is.
     void FocusSearch();
     /// Sets the check state of an item, of the visible items below it and of its parents; null is ignored.
     void UpdateSelectedState(QStandardItem* pItem, bool bChecked);

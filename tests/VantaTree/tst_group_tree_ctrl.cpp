@@ -162,6 +162,8 @@ private Q_SLOTS:
     void arrowKeysTellOncePerRow();
     void typingAheadTellsOnce();
     void theFirstRowCanBeReachedByKey();
+    void theDownKeyLeadsFromTheSearchIntoTheTree();
+    void theDownKeyLeadsFromTheSearchToTheSelectedRow();
     void aChangeByProgramTellsNothing();
     void indexesGivenOutBelongToTheModel();
     void aRowHiddenByTheSearchComesBackSelected();
@@ -316,6 +318,37 @@ void tst_group_tree_ctrl::typingAheadTellsOnce()
     QCOMPARE(tree.TakeLog(), QStringLiteral("clicked Garage door/3"));
     QCOMPARE(tree.Selected(), QStringLiteral("Garage door"));
     QTest::keyClick(tree.view, Qt::Key_A);
+    QCOMPARE(tree.TakeLog(), QString());
+}
+
+void tst_group_tree_ctrl::theDownKeyLeadsFromTheSearchIntoTheTree()
+{
+    Tree tree;
+    tree.search->setFocus();
+    QTest::keyClicks(tree.search, QStringLiteral("gar"));
+    tree.TakeLog();
+
+    QTest::keyClick(tree.search, Qt::Key_Down);
+
+    QVERIFY(tree.view->hasFocus());
+    const QString strFirst = tree.view->model()->index(0, 0).data().toString();
+    QVERIFY(!strFirst.isEmpty());
+    QCOMPARE(tree.Selected(), strFirst);
+    QCOMPARE(tree.search->text(), QStringLiteral("gar"));
+}
+
+void tst_group_tree_ctrl::theDownKeyLeadsFromTheSearchToTheSelectedRow()
+{
+    Tree tree;
+    tree.Click(tree.TextOf(100, 2));
+    const QString strSelected = tree.Selected();
+    tree.TakeLog();
+    tree.search->setFocus();
+
+    QTest::keyClick(tree.search, Qt::Key_Down);
+
+    QVERIFY(tree.view->hasFocus());
+    QCOMPARE(tree.Selected(), strSelected);
     QCOMPARE(tree.TakeLog(), QString());
 }
 
