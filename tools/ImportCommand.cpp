@@ -34,6 +34,19 @@ QString ImportCommand::WordOf(Mode eMode)
     return eMode == Mode::Merge ? QStringLiteral("merge") : QStringLiteral("replace");
 }
 
+QStringList ImportCommand::MakeFolder(const QString& strFile)
+{
+    QStringList missing;
+    QString folder = QFileInfo(strFile).absolutePath();
+    while (!QFileInfo::exists(folder) && !missing.contains(folder)) {
+        missing.append(folder);
+        folder = QFileInfo(folder).absolutePath();
+    }
+    if (!missing.isEmpty())
+        QDir().mkpath(missing.constFirst()); // a failure shows in the writing
+    return missing;
+}
+
 QString ImportCommand::Name() const
 {
     return QStringLiteral("import");
@@ -90,11 +103,14 @@ int ImportCommand::Run(const QStringList& arguments, CommandEnvironment& environ
     for (const Mode mode : qAsConst(modes))
         equal = equal && SchemeComparison::Compare(before, After(before, listed, mode)).IsEqual();
     if (!dry && !equal) {
-        if (!options.DataDirectory().isEmpty())
-            QDir().mkpath(QFileInfo(options.DatabaseFile()).path()); // a failure shows in the writing
+        const QStringList made =
+            options.DataDirectory().isEmpty() ? QStringList() : MakeFolder(options.DatabaseFile());
         if (!SchemeWriting::Import(options.DatabaseFile(), listed, modes.constFirst() == Mode::Replace,
-                                   QFileInfo(file).fileName(), environment))
+                                   QFileInfo(file).fileName(), environment)) {
+            for (const QString& folder : made)
+                QDir().rmdir(folder);
             return ExitCode::Failure;
+        }
     }
     if (options.IsJson())
         TellJson(before, listed, modes, dry, site, environment.out);

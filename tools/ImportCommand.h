@@ -27,6 +27,8 @@ private:
     };
 
     static QString WordOf(Mode eMode);
+    /// Makes the folder of a file; those that were missing on its path, the innermost first.
+    static QStringList MakeFolder(const QString& strFile);
     /// What the database holds after the import.
     static AlarmInfoMap After(const AlarmInfoMap& before, const AlarmInfoMap& listed, Mode eMode);
     static void Tell(const AlarmInfoMap& before, const AlarmInfoMap& listed, const QList<Mode>& modes,

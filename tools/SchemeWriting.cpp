@@ -1,5 +1,6 @@
 #include "tools/SchemeWriting.h"
 
+#include "client/store/FreshFiles.h"
 #include "client/store/SystemUser.h"
 #include "platform/lxl/DPrintLog.h"
 #include "tools/ProgressLine.h"
@@ -23,8 +24,15 @@ SaveResult SchemeWriting::Write(const QString& strDatabase, const Work& work, Co
     lxl::DPrintLog::instance().SetStandardError(false);
     SaveProgress written;
     const auto write = [&] {
-        StoredSchemes stored(BusyTimeOut, strDatabase);
-        return work(stored, written);
+        const FreshFiles fresh(strDatabase);
+        SaveResult result;
+        {
+            StoredSchemes stored(BusyTimeOut, strDatabase);
+            result = work(stored, written);
+        }
+        if (result.eReason != SchemeStoreOutcome::Reason::None)
+            fresh.Remove();
+        return result;
     };
     ProgressLine progress(environment, tr("Writing the schemes"));
     std::future<SaveResult> task = std::async(std::launch::async, write);

@@ -20,7 +20,8 @@ public:
     SchemeWriting() = delete;
 
     /// The listed schemes take the place of those of the same keys, whole; with bOnly all others are deleted.
-    /// A database that is missing is made. False when nothing was changed; then it has been said why.
+    /// A database that is missing is made. False when nothing was changed, and nothing made; then it has been
+    /// said why.
     static bool Import(const QString& strDatabase, const AlarmInfoMap& schemes, bool bOnly,
                        const QString& strNote, CommandEnvironment& environment);
 

@@ -2,6 +2,7 @@
 
 #include "client/store/DamagedFile.h"
 #include "client/store/DatabaseCopy.h"
+#include "client/store/FreshFiles.h"
 #include "client/store/SaveTransaction.h"
 #include "client/store/SchemeBackups.h"
 #include "client/store/SchemeHistoryKeeper.h"
@@ -40,6 +41,16 @@ SaveResult SchemeRestore::ResultOf(const AlarmSchemeStatementFailure& failure)
 
 SaveResult SchemeRestore::Restore(const QString& strCopy, const SaveOrigin& origin)
 {
+    const FreshFiles fresh(m_strDatabase);
+    SaveResult result = TryToRestore(strCopy, origin);
+    m_connection.Close();
+    if (result.eReason != Reason::None)
+        fresh.Remove();
+    return result;
+}
+
+SaveResult SchemeRestore::TryToRestore(const QString& strCopy, const SaveOrigin& origin)
+{
     AlarmInfoMap before;
     m_connection.AllowWaiting(m_wait);
     m_connection.Open();
@@ -68,7 +79,6 @@ SaveResult SchemeRestore::Restore(const QString& strCopy, const SaveOrigin& orig
     SaveResult result;
     result.iSchemes = after.size();
     result.strHistoryFailure = m_strHistoryFailure;
-    m_connection.Close();
     return result;
 }
 

@@ -19,7 +19,7 @@ public:
     SchemeRestore(const QString& strDatabase, std::chrono::milliseconds wait);
 
     /// The copy is a sound database of schemes, which its caller has seen to, and stays as it is. After a
-    /// failure the database holds what it held.
+    /// failure the database holds what it held, and one that was missing is missing still.
     SaveResult Restore(const QString& strCopy, const SaveOrigin& origin);
 
     /// Where a damaged database lies now; empty when it was sound.
@@ -28,6 +28,7 @@ public:
 private:
     using Failure = std::optional<AlarmSchemeStatementFailure>;
 
+    SaveResult TryToRestore(const QString& strCopy, const SaveOrigin& origin);
     static SaveResult ResultOf(const AlarmSchemeStatementFailure& failure);
     Failure Look(AlarmInfoMap& held);
     Failure Exchange(const QString& strCopy, bool bDamaged, bool bEmpty);
