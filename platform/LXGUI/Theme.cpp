@@ -23,7 +23,7 @@ const DefaultColour DefaultColours[] = {
     {"text", 0xFFDDDDDD},          {"dim", 0xFF9AA3AB},       {"disabled", 0xFF787878},
     {"accent", 0xFF3AAA24},        {"onAccent", 0xFF0B0D0E},  {"accentHover", 0xFF47BF2F},
     {"accentPressed", 0xFF2F8C1D}, {"warning", 0xFFE8A33D},   {"danger", 0xFFE5484D},
-    {"focus", 0xFF6CB6FF},         {"selection", 0xFF2C4C2E},
+    {"focus", 0xFF6CB6FF},         {"selection", 0xFF2C4C2E}, {"scale", 0xFF272C31},
 };
 
 QHash<QString, QColor> Defaults()

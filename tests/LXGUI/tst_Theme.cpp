@@ -15,7 +15,7 @@ QStringList TokenNames()
 {
     return QStringLiteral(
                "window panel raised input lineDark lineLight text dim disabled accent onAccent accentHover "
-               "accentPressed warning danger focus selection")
+               "accentPressed warning danger focus selection scale")
         .split(QLatin1Char(' '));
 }
 
@@ -93,6 +93,14 @@ private Q_SLOTS:
                          qPrintable(QStringLiteral("%1 on %2: %3").arg(pair.first, strGround).arg(contrast)));
             }
         }
+    }
+
+    void theHoursOfTheWeekPlanCanBeReadOnTheirGround_data() { ThemesData(); }
+    void theHoursOfTheWeekPlanCanBeReadOnTheirGround()
+    {
+        QFETCH(QString, theme);
+        const QColor hours(QStringLiteral("#DDDDDD")); // the same in every theme
+        QVERIFY(Contrast(hours, ColourIn(ThemeFile(theme), QStringLiteral("scale"))) >= 4.5);
     }
 
     void marksThatCarryMeaningStandOut_data() { ThemesData(); }
