@@ -363,12 +363,13 @@ void TestPageForm::theSlotsStandInTheirOrder()
         if (meta.method(i).methodType() == QMetaMethod::Slot)
             slotList.append(meta.method(i).methodSignature());
     }
+    // Qt 6 has another name for the same list.
+    const QByteArray strCopy = QMetaObject::normalizedSignature("OnCopyToImp(QList<QString>)");
     QCOMPARE(slotList.mid(0, 10),
-             (QList<QByteArray>{"OnOptionBtnClicked()", "OnTabBtnClicked()", "OnGroupTreeFocusChanged()",
-                                "OnTypeSelectionChanged(QString,int)",
-                                "OnAlarmInChanged(QTreeWidgetItem*,QTreeWidgetItem*)",
-                                "OnOpenStatusChanged(bool)", "OnSave()", "OnCopyTo()",
-                                "OnCopyToImp(QList<QString>)", "OnRemoveDevice(int64_t)"}));
+             (QList<QByteArray>{
+                 "OnOptionBtnClicked()", "OnTabBtnClicked()", "OnGroupTreeFocusChanged()",
+                 "OnTypeSelectionChanged(QString,int)", "OnAlarmInChanged(QTreeWidgetItem*,QTreeWidgetItem*)",
+                 "OnOpenStatusChanged(bool)", "OnSave()", "OnCopyTo()", strCopy, "OnRemoveDevice(int64_t)"}));
 }
 
 void TestPageForm::aPageIsAFrameWithoutWindowFlags()
