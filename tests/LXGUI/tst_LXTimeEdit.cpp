@@ -13,6 +13,10 @@ private Q_SLOTS:
     void init();
     void aDigitTypedAfterAClickReplacesTheClickedPart_data();
     void aDigitTypedAfterAClickReplacesTheClickedPart();
+    void aTimeIsTypedAsOnPaper_data();
+    void aTimeIsTypedAsOnPaper();
+    void aColonLeadsOnWhereADigitHasNot();
+    void aColonAfterAClickLeadsOn();
     void aSelectionThatWasDraggedStays();
     void theOtherMouseButtonsSelectNothing();
 
@@ -72,6 +76,51 @@ void LXTimeEditTest::aDigitTypedAfterAClickReplacesTheClickedPart()
     QTest::keyClicks(&Line(), typed);
 
     QCOMPARE(m_edit.time(), expected);
+}
+
+void LXTimeEditTest::aTimeIsTypedAsOnPaper_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QTime>("expected");
+    QTest::newRow("one digit leaves no choice") << QStringLiteral("8:31:11") << QTime(8, 31, 11);
+    QTest::newRow("two digits") << QStringLiteral("17:45:09") << QTime(17, 45, 9);
+    QTest::newRow("a nought before it") << QStringLiteral("06:00:07") << QTime(6, 0, 7);
+    QTest::newRow("one digit leaves a choice") << QStringLiteral("1:02:03") << QTime(1, 2, 3);
+    QTest::newRow("digits alone") << QStringLiteral("083111") << QTime(8, 31, 11);
+    QTest::newRow("digits alone, short") << QStringLiteral("83111") << QTime(8, 31, 11);
+    QTest::newRow("no seconds") << QStringLiteral("9:15") << QTime(9, 15, 0);
+    QTest::newRow("midnight's last second") << QStringLiteral("23:59:59") << QTime(23, 59, 59);
+}
+
+void LXTimeEditTest::aTimeIsTypedAsOnPaper()
+{
+    QFETCH(QString, typed);
+    QFETCH(QTime, expected);
+
+    m_edit.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&m_edit, typed);
+
+    QCOMPARE(m_edit.time(), expected);
+}
+
+void LXTimeEditTest::aColonLeadsOnWhereADigitHasNot()
+{
+    m_edit.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&m_edit, QStringLiteral("::"));
+
+    QVERIFY(m_edit.currentSection() == QDateTimeEdit::SecondSection);
+    QCOMPARE(m_edit.time(), QTime(7, 45, 0));
+}
+
+void LXTimeEditTest::aColonAfterAClickLeadsOn()
+{
+    m_edit.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&m_edit, QStringLiteral("8")); // leads on to the minutes
+    QTest::mouseClick(&Line(), Qt::LeftButton, Qt::NoModifier, PlaceBefore(3));
+    QTRY_COMPARE(Line().selectedText(), QStringLiteral("45"));
+    QTest::keyClicks(&m_edit, QStringLiteral(":"));
+
+    QVERIFY(m_edit.currentSection() == QDateTimeEdit::SecondSection);
 }
 
 void LXTimeEditTest::aSelectionThatWasDraggedStays()
