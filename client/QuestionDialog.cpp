@@ -38,11 +38,9 @@ QuestionDialog::QuestionDialog(const Texts& texts, QWidget* parent)
     QPushButton* const pGiveUp = GetButton(QDialogButtonBox::Discard);
     pGiveUp->setObjectName(QStringLiteral("btnGiveUp"));
     pGiveUp->setText(texts.strGiveUp);
-    pGiveUp->setAutoDefault(false);
     QPushButton* const pNothing = GetButton(QDialogButtonBox::Cancel);
     pNothing->setObjectName(QStringLiteral("btnNothing"));
     pNothing->setText(texts.strNothing);
-    pNothing->setAutoDefault(false);
 
     connect(this, &LXCustomDialog::SignalOkButtonClicked, this, [this] {
         m_eAnswer = Answer::Keep;

@@ -26,6 +26,8 @@
 #include <QImage>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QStyleFactory>
 #include <QTabBar>
 #include <QTabWidget>
@@ -58,6 +60,8 @@ private Q_SLOTS:
     void noTextIsCutInEitherLanguage();
     void aDialogIsWalkedThroughWithTab_data();
     void aDialogIsWalkedThroughWithTab();
+    void enterPressesTheButtonThatHasTheFocus_data();
+    void enterPressesTheButtonThatHasTheFocus();
     void theFocusIsSeenOnEveryButton_data();
     void theFocusIsSeenOnEveryButton();
     void whatIsDisabledLooksDisabled();
@@ -258,6 +262,33 @@ void TestClientAccessibility::aDialogIsWalkedThroughWithTab()
             QVERIFY2(reached.contains(pButton), qPrintable(pButton->objectName() + pButton->text()));
         }
     }
+}
+
+void TestClientAccessibility::enterPressesTheButtonThatHasTheFocus_data()
+{
+    AddDialogs();
+}
+
+void TestClientAccessibility::enterPressesTheButtonThatHasTheFocus()
+{
+    QFETCH(std::function<QDialog*()>, make);
+    const std::unique_ptr<QDialog> dialog(make());
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    const QList<QPushButton*> buttons = dialog->findChildren<QPushButton*>();
+    for (QPushButton* const pButton : buttons)
+        pButton->disconnect(); // what a press does is another matter, and could open or close something
+    int iPressed = 0;
+    for (QPushButton* const pButton : buttons) {
+        if (!pButton->isVisible() || !pButton->isEnabled() || (pButton->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        const QSignalSpy clicks(pButton, &QPushButton::clicked);
+        pButton->setFocus();
+        QTest::keyClick(pButton, Qt::Key_Return);
+        QVERIFY2(clicks.size() == 1, qPrintable(pButton->objectName() + pButton->text()));
+        ++iPressed;
+    }
+    QVERIFY(iPressed >= 2);
 }
 
 void TestClientAccessibility::theFocusIsSeenOnEveryButton_data()
