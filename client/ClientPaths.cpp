@@ -72,4 +72,14 @@ QString SiteFile(const QString& strDataDirectory)
     return Below(strDataDirectory, QStringLiteral("site.json"));
 }
 
+QString ChoiceDirectory(const QString& strLastFile)
+{
+    const QFileInfo last(strLastFile);
+    if (!strLastFile.isEmpty() && last.isAbsolute() && last.dir().exists()) {
+        return last.absolutePath();
+    }
+    const QString strDocuments = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(strDocuments).isDir() ? strDocuments : QDir::homePath();
+}
+
 } // namespace ClientPaths

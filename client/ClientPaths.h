@@ -22,4 +22,8 @@ QString SettingsFile(const QString& strDataDirectory);
 QString LogFile(const QString& strDataDirectory);
 QString SiteFile(const QString& strDataDirectory);
 
+/// Where the choice of a file begins: the folder of the last file, or the person's documents, or home. Never
+/// the working directory, which is that of the program's own files.
+QString ChoiceDirectory(const QString& strLastFile);
+
 } // namespace ClientPaths

@@ -2,6 +2,7 @@
 #include "ui_MailSettingsDialog.h"
 
 #include "client/ClientLog.h"
+#include "client/ClientPaths.h"
 #include "client/ClientSettings.h"
 #include "platform/LXGUI/Theme.h"
 
@@ -154,7 +155,7 @@ void MailSettingsDialog::OnEncryption()
 void MailSettingsDialog::OnBrowse()
 {
     const QString strFile = QFileDialog::getOpenFileName(
-        this, tr("Certificate file"), QFileInfo(ui->edtCertificateFile->text()).absolutePath(),
+        this, tr("Certificate file"), ClientPaths::ChoiceDirectory(ui->edtCertificateFile->text()),
         tr("Certificates (*.pem *.crt *.cer);;All files (*)"));
     if (!strFile.isEmpty()) {
         ui->edtCertificateFile->setText(QDir::toNativeSeparators(strFile));

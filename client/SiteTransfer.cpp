@@ -1,6 +1,7 @@
 #include "client/SiteTransfer.h"
 
 #include "client/ClientLog.h"
+#include "client/ClientPaths.h"
 #include "client/SiteImportDialog.h"
 #include "client/SiteSession.h"
 #include "platform/LXGUI/LXMessageNotify.h"
@@ -39,10 +40,11 @@ SiteTransfer::~SiteTransfer() = default;
 void SiteTransfer::Import()
 {
     const QPointer<SiteTransfer> guard(this); // the file dialog runs an event loop
-    const QString strFile =
-        QFileDialog::getOpenFileName(m_pWindow, tr("Import a site"), QString(),
-                                     tr("Tables and site files (*.csv *.tsv *.txt *.json);;All files (*)"));
+    const QString strFile = QFileDialog::getOpenFileName(
+        m_pWindow, tr("Import a site"), ClientPaths::ChoiceDirectory(m_strLastFile),
+        tr("Tables and site files (*.csv *.tsv *.txt *.json);;All files (*)"));
     if (guard && !strFile.isEmpty()) {
+        m_strLastFile = strFile;
         ImportFile(strFile);
     }
 }
@@ -50,10 +52,12 @@ void SiteTransfer::Import()
 void SiteTransfer::Export()
 {
     const QPointer<SiteTransfer> guard(this);
-    const QString strFile =
-        QFileDialog::getSaveFileName(m_pWindow, tr("Export the site"), QStringLiteral("site.csv"),
-                                     tr("Table (*.csv);;Site file (*.json)"));
+    const QString strFile = QFileDialog::getSaveFileName(
+        m_pWindow, tr("Export the site"),
+        QDir(ClientPaths::ChoiceDirectory(m_strLastFile)).filePath(QStringLiteral("site.csv")),
+        tr("Table (*.csv);;Site file (*.json)"));
     if (guard && !strFile.isEmpty()) {
+        m_strLastFile = strFile;
         ExportFile(strFile);
     }
 }

@@ -17,8 +17,9 @@ public:
     SiteTransfer(SiteSession& session, QWidget* pWindow, QObject* parent = nullptr);
     ~SiteTransfer() override;
 
-    void Import(); ///< asks for the file first
-    void Export();
+    /// Asks for the file first: in the folder of the last one, at first in that of the person's documents.
+    void Import();
+    void Export(); ///< asks as an import does
     /// The import of this file, from the preview on; returns when the dialog is closed. Whether the site was
     /// changed.
     bool ImportFile(const QString& strFile);
@@ -28,4 +29,5 @@ public:
 private:
     SiteSession& m_session;
     QWidget* m_pWindow;
+    QString m_strLastFile; ///< that was chosen; empty before the first
 };

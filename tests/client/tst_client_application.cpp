@@ -53,6 +53,7 @@ private Q_SLOTS:
     void aPictureThatCannotBeWrittenIsReported();
     void theLogLiesInTheDataDirectory();
     void partsAreFoundBesideTheProgramOrInstalled();
+    void aChoiceOfAFileBeginsWithThePersonsOwn();
 
 private:
     QString DataPath(const QString& strName) const
@@ -386,6 +387,22 @@ void TestClientApplication::partsAreFoundBesideTheProgramOrInstalled()
     QCOMPARE(ClientPaths::TranslationDirectories(strBin).constFirst(),
              strBin + QStringLiteral("/translations"));
     QVERIFY(QDir::isAbsolutePath(ClientPaths::DefaultDataDirectory()));
+}
+
+void TestClientApplication::aChoiceOfAFileBeginsWithThePersonsOwn()
+{
+    const QString strBefore = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_program->path())); // as a started program has it
+    const QStringList never{QString(), QStringLiteral("."), QStringLiteral("site.csv"),
+                            m_data->filePath(QStringLiteral("gone/site.csv"))};
+    for (const QString& strLast : never) {
+        const QString strBegin = ClientPaths::ChoiceDirectory(strLast);
+        QVERIFY2(QDir::isAbsolutePath(strBegin) && QDir(strBegin).exists(), qPrintable(strBegin));
+        QVERIFY2(QDir(strBegin) != QDir(m_program->path()), qPrintable(strLast));
+        QVERIFY2(QDir(strBegin) != QDir(m_data->path()), qPrintable(strLast));
+    }
+    QCOMPARE(ClientPaths::ChoiceDirectory(m_data->filePath(QStringLiteral("site.csv"))), m_data->path());
+    QVERIFY(QDir::setCurrent(strBefore));
 }
 
 QTEST_MAIN(TestClientApplication)

@@ -8,7 +8,9 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -73,6 +75,7 @@ private Q_SLOTS:
     void theWindowMayGoUnderThePreview();
     void anExportIsTold();
     void anExportNeverLandsOnTheSiteItself();
+    void aFileIsChosenWhereTheLastOneWas();
 
 private:
     QString File(const char* szName) const { return m_directory->filePath(QLatin1String(szName)); }
@@ -293,6 +296,35 @@ void TestSiteTransfer::anExportNeverLandsOnTheSiteItself()
     QVERIFY(!m_transfer->ExportFile(File("./site.json")));
     QCOMPARE(Content(File("site.json")), SiteFile::ToText(SmallSite()));
     QVERIFY(!Notes()->GetLastText().isEmpty());
+}
+
+void TestSiteTransfer::aFileIsChosenWhereTheLastOneWas()
+{
+    QStringList begun;
+    const auto choose = [&begun](const QString& strFile) {
+        QTimer::singleShot(0, qApp, [&begun, strFile] {
+            QWidget* pAsking = QApplication::activeModalWidget();
+            if (const auto* pFiles = qobject_cast<QFileDialog*>(pAsking)) {
+                begun += pFiles->directory().canonicalPath();
+                pFiles->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(strFile);
+            }
+            if (auto* pDialog = qobject_cast<QDialog*>(pAsking)) {
+                strFile.isEmpty() ? pDialog->reject() : pDialog->accept();
+            }
+        });
+    };
+    choose(QString());
+    m_transfer->Export();
+    choose(File("out.csv"));
+    m_transfer->Export();
+    QCOMPARE(Content(File("out.csv")), SiteTable::ToText(SmallSite()));
+    choose(QString());
+    m_transfer->Import();
+
+    QCOMPARE(begun.size(), 3);
+    QVERIFY(begun.at(0) != QDir::current().canonicalPath());
+    QCOMPARE(begun.at(1), begun.at(0));
+    QCOMPARE(begun.at(2), QDir(m_directory->path()).canonicalPath());
 }
 
 QTEST_MAIN(TestSiteTransfer)
