@@ -260,16 +260,7 @@ QString SchemeStoreOutcome::NextAfterSave(Reason eReason)
 
 QString SchemeStoreOutcome::NextAfterRepair(Reason eReason)
 {
-    switch (eReason) {
-    case Reason::Locked:
-    case Reason::Journal:
-        return tr("Close the other program, then start this program again.");
-    case Reason::NotOpen:
-    case Reason::ReadOnly:
-        return tr("Check the rights on the database folder, then start this program again.");
-    case Reason::DiskFull:
-        return tr("Free some space, then start this program again.");
-    default:
-        return tr("Start this program again; if it happens again, see the log file.");
-    }
+    // Damage that stays after a repair is no reason to restore once more what has just been restored.
+    const bool bStillDamaged = eReason == Reason::Damaged || eReason == Reason::BadText;
+    return NextAfterLoad(bStillDamaged ? Reason::Other : eReason);
 }
