@@ -42,7 +42,7 @@ for page in acs-client acs-scheme; do
 done
 
 say "a page of another author, built from the packages"
-cmake -S examples/minimal_module -B "$place/minimal_module" -G Ninja --fresh \
+cmake -S "$unpacked/usr/share/doc/acs-client-dev/examples/minimal_module" -B "$place/minimal_module" -G Ninja --fresh \
     -D CMAKE_PREFIX_PATH="$unpacked/usr" >"$packages/example.log"
 cmake --build "$place/minimal_module" >>"$packages/example.log" || {
     cat "$packages/example.log" >&2

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void theCommandLineRuns();
     void theHeadersOfTheKitIncludeNothingElse();
     void theMenuEntryNamesWhatIsInstalled();
+    void thePagesLeadToWhatIsInstalled();
     void nothingInstalledSpeaksOfTheBuildTree();
 
 private:
@@ -248,6 +249,24 @@ void TestInstalled::theMenuEntryNamesWhatIsInstalled()
         QVERIFY2(QFileInfo(Prefix(QLatin1String(szFile))).size() > 0, szFile);
     }
 #endif
+}
+
+void TestInstalled::thePagesLeadToWhatIsInstalled()
+{
+    const QRegularExpression link(QStringLiteral("\\]\\(([^)#:]+)(?:#[^)]*)?\\)"));
+    const QDir folder(Prefix(QStringLiteral("share/doc/acs-client")));
+    const QStringList pages = folder.entryList({QStringLiteral("*.md")});
+    QVERIFY(pages.contains(QStringLiteral("guide.md")) && pages.contains(QStringLiteral("plugin-api.md")));
+    int iLinks = 0;
+    for (const QString& strPage : pages) {
+        auto links = link.globalMatch(TextOf(folder.filePath(strPage)));
+        while (links.hasNext()) {
+            const QString strTarget = links.next().captured(1);
+            QVERIFY2(folder.exists(strTarget), qPrintable(strPage + QLatin1Char(' ') + strTarget));
+            ++iLinks;
+        }
+    }
+    QVERIFY(iLinks > 15);
 }
 
 void TestInstalled::nothingInstalledSpeaksOfTheBuildTree()
