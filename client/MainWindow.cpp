@@ -6,6 +6,7 @@
 #include "client/EditActions.h"
 #include "client/ElidedLabel.h"
 #include "client/HomePage.h"
+#include "client/LoadAnewOffer.h"
 #include "client/MailSettingsDialog.h"
 #include "client/PageAccess.h"
 #include "client/PageStatus.h"
@@ -26,6 +27,8 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -82,6 +85,10 @@ void MainWindow::BuildStatusBar()
     m_pSaving = new SaveIndicator(this);
     ui->statusBar->addPermanentWidget(m_pSaving);
     m_pSaving->hide(); // a status bar shows what it is given
+    m_pLoadAnew = new LoadAnewOffer(this);
+    ui->statusBar->addPermanentWidget(m_pLoadAnew);
+    m_pLoadAnew->hide();
+    connect(m_pLoadAnew, &QPushButton::clicked, this, &MainWindow::ReloadPages);
     m_pEnabled = new QLabel(this);
     m_pEnabled->setObjectName(QStringLiteral("lblEnabledSchemes"));
     ui->statusBar->addPermanentWidget(m_pEnabled);
@@ -220,6 +227,20 @@ bool MainWindow::ReloadPages()
     ui->tabPages->setCurrentIndex(iCurrent);
     ShowUnsaved(false);
     return true;
+}
+
+void MainWindow::OfferReload(const QString& strReason)
+{
+    const QList<QPointer<QWidget>> pages = m_pPages->All();
+    if (std::any_of(pages.cbegin(), pages.cend(),
+                    [](const QPointer<QWidget>& page) { return PageAccess::CanSave(page); })) {
+        m_pLoadAnew->Offer(strReason);
+    }
+}
+
+void MainWindow::WithdrawReload()
+{
+    m_pLoadAnew->Withdraw();
 }
 
 void MainWindow::FollowSaves(AlarmSchemeStoreBackend* pStore)
@@ -373,10 +394,7 @@ void MainWindow::OnDataDirectory()
 
 void MainWindow::RefreshStatus()
 {
-    const QString strEdited = m_pStatus->Text();
-    // A page that saves nothing edits nothing.
-    const bool bEditor = m_pStatus->CanSave();
-    m_pEdited->setText(strEdited.isEmpty() && bEditor ? tr("No event is selected.") : strEdited);
+    m_pEdited->setText(m_pStatus->Text());
     const int iEnabled = m_pStatus->EnabledSchemes();
     m_pEnabled->setText(iEnabled < 0 ? QString() : tr("%n scheme(s) on", nullptr, iEnabled));
     m_pEnabled->setVisible(iEnabled >= 0);

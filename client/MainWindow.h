@@ -12,6 +12,7 @@ class ClientSettings;
 class EditActions;
 class ElidedLabel;
 class HomePage;
+class LoadAnewOffer;
 class PageStatus;
 class PageTabs;
 class PluginLoader;
@@ -61,6 +62,9 @@ public:
     /// Destroys every page that can save, with its edits, and opens those again that were open. About unsaved
     /// edits the operator is asked first; false when the pages stay as they are for now.
     bool ReloadPages();
+    /// Offers that to the operator, for a reason; nothing without pages that would be loaded anew.
+    void OfferReload(const QString& strReason);
+    void WithdrawReload();   ///< what the pages show is what is stored, or the operator has decided
     void OpenMailSettings(); ///< returns when the dialog is closed
 
     HomePage* Home() const { return m_pHome; }
@@ -101,6 +105,7 @@ private:
     PageStatus* m_pStatus;
     ElidedLabel* m_pEdited;
     QLabel* m_pEnabled;
+    LoadAnewOffer* m_pLoadAnew;
     QLabel* m_pSite;
     QLabel* m_pUnsaved;
     SaveIndicator* m_pSaving;

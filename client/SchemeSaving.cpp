@@ -30,6 +30,11 @@ SchemeSaving::SchemeSaving(AlarmSchemeStoreBackend& store, MainWindow& window, Q
         return self.isNull() || self->m_window.isNull() ? SchemeDamageAnswer::LeaveAlone
                                                         : SchemeDamageDialog::Ask(damage, self->m_window);
     });
+    connect(&store, &AlarmSchemeStoreBackend::SignalChangedOutside, this, [this] {
+        if (!m_window.isNull()) {
+            m_window->OfferReload(tr("Another program has changed the schemes."));
+        }
+    });
     window.FollowSaves(&store);
 }
 
@@ -50,6 +55,9 @@ void SchemeSaving::OnOutcome(const SchemeStoreOutcome& outcome)
         OnSaveEnded(outcome.IsSuccess());
     }
     if (!m_window.isNull()) {
+        if (outcome.IsSuccess() && !outcome.bRevert) {
+            m_window->WithdrawReload();
+        }
         m_window->ShowSaveOutcome(outcome);
     }
 }
@@ -78,8 +86,14 @@ SchemeConflictAnswer SchemeSaving::Ask(const SchemeConflict& conflict)
 
 void SchemeSaving::Reload()
 {
-    if (!m_window.isNull() && !m_window->ReloadPages()) {
+    if (m_window.isNull() || m_window->ReloadPages() || m_store.isNull() || m_window.isNull()) {
+        return;
+    }
+    const SchemeStoreOutcome outcome = m_store->LastOutcome();
+    if (outcome.eOperation == SchemeStoreOutcome::Operation::Save && !outcome.IsSuccess()) {
         SetUnsaved(true); // the save before it has failed, and its edits stay
+    } else {
+        m_window->OfferReload(tr("The stored schemes are no longer those that were loaded."));
     }
 }
 

@@ -73,6 +73,8 @@ AlarmSchemeStoreBackend::AlarmSchemeStoreBackend()
         m_strPath = m_schemes->GetPath();
         m_bDamaged = m_schemes->IsDamaged();
     });
+    connect(&m_outsideTimer, &QTimer::timeout, this, &AlarmSchemeStoreBackend::LookOutside);
+    m_outsideTimer.start(LookInterval);
 }
 
 AlarmSchemeStoreBackend::~AlarmSchemeStoreBackend()
@@ -304,10 +306,27 @@ SchemeConflictAnswer AlarmSchemeStoreBackend::Ask(const SchemeConflict& conflict
     return self.isNull() || loads != m_iLoads ? SchemeConflictAnswer::Cancel : answer;
 }
 
+void AlarmSchemeStoreBackend::LookOutside()
+{
+    if (m_bEnding || IsSaving() || !m_lastLoad.IsSuccess() || std::exchange(m_bLookingOutside, true))
+        return;
+    const auto look = [this, loads = m_iLoads] {
+        const bool changed = m_schemes->FindOutsideChange();
+        const auto tell = [this, changed, loads] {
+            m_bLookingOutside = false;
+            if (changed && !m_bEnding && loads == m_iLoads)
+                Q_EMIT SignalChangedOutside();
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(&m_worker, look, Qt::QueuedConnection);
+}
+
 void AlarmSchemeStoreBackend::LookAtDamage()
 {
     if (!m_bDamaged || !m_damageHandler || std::exchange(m_bDamageAsked, true))
         return;
+    m_bSettlingDamage = true;
     // Looking through the backups takes a while, and whoever loads is not to be held up by a question.
     const auto look = [this] {
         const std::optional<SchemeDamage> damage = m_schemes->Damage();
@@ -320,13 +339,19 @@ void AlarmSchemeStoreBackend::LookAtDamage()
 void AlarmSchemeStoreBackend::OnDamage(const std::optional<SchemeDamage>& damage)
 {
     m_bDamageAsked = damage.has_value();
-    if (m_bEnding || !damage || !m_damageHandler)
+    if (m_bEnding || !damage || !m_damageHandler) {
+        EndOfDamage();
         return;
+    }
     const QPointer<AlarmSchemeStoreBackend> self(this);
     const DamageHandler ask = m_damageHandler;
     const SchemeDamageAnswer answer = ask(*damage);
-    if (self.isNull() || answer == SchemeDamageAnswer::LeaveAlone)
+    if (self.isNull())
         return;
+    if (answer == SchemeDamageAnswer::LeaveAlone) {
+        EndOfDamage();
+        return;
+    }
     const auto repair = [this, damage = *damage, answer] {
         const DamageRepairResult result = m_schemes->Repair(answer, damage);
         QMetaObject::invokeMethod(
@@ -353,6 +378,14 @@ void AlarmSchemeStoreBackend::OnRepaired(const DamageRepairResult& result, const
     Report(outcome);
     if (outcome.IsSuccess() && reload && !self.isNull())
         reload();
+    if (!self.isNull())
+        EndOfDamage();
+}
+
+void AlarmSchemeStoreBackend::EndOfDamage()
+{
+    m_bSettlingDamage = false;
+    Q_EMIT SignalDamageSettled();
 }
 
 void AlarmSchemeStoreBackend::StartNext()

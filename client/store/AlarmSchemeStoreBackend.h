@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QString>
 #include <QThread>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -40,6 +41,8 @@ class AlarmSchemeStoreBackend : public QObject, public IAlarmSchemeBackend
 public:
     /// Longest time that one load or save waits for other processes, in milliseconds.
     static constexpr int BusyTimeOut = 5000;
+    /// Time between two looks whether another program has changed the schemes, in milliseconds.
+    static constexpr int LookInterval = 2000;
 
     using OutcomeHandler = std::function<void(const SchemeStoreOutcome&)>;
     using ConflictHandler = std::function<SchemeConflictAnswer(const SchemeConflict&)>;
@@ -73,6 +76,8 @@ public:
     /// it was answered to leave the file alone there is no second question. The outcome of a repair is told
     /// as those of loads and saves are, a success is followed by the reload handler.
     void SetDamageHandler(DamageHandler handler);
+    /// Whether that question is on its way or open, or what it has brought about is.
+    bool IsSettlingDamage() const { return m_bSettlingDamage; }
 
     /// Tells who saves, for the history; asked when a map is taken. Nobody without one.
     void SetAuthor(Author author);
@@ -100,6 +105,10 @@ public:
 
 Q_SIGNALS:
     void SignalSavingChanged(bool bSaving);
+    /// Another program has changed the schemes that were loaded; told once for each change, not while saves
+    /// are under way, which ask about it themselves.
+    void SignalChangedOutside();
+    void SignalDamageSettled(); ///< IsSettlingDamage() has become false
     /// A step was taken back, but for these schemes, which have changed since. Before SignalSavingChanged.
     void SignalReverted(qint64 iEntry, const QList<AlarmSourceKey>& changedSince);
 
@@ -128,7 +137,9 @@ private:
     SchemeConflictAnswer Ask(const SchemeConflict& conflict);
     void End(const SchemeStoreOutcome& outcome, bool bSilent = false);
     void StartNext();
+    void LookOutside();
     void LookAtDamage();
+    void EndOfDamage();
     void OnDamage(const std::optional<SchemeDamage>& damage);
     void OnRepaired(const DamageRepairResult& result, const SchemeDamage& damage, SchemeDamageAnswer eAnswer);
     void TellSaving(bool bSaving);
@@ -158,5 +169,8 @@ private:
     DamageHandler m_damageHandler;
     bool m_bDamaged = false;     ///< as the last opening has found it
     bool m_bDamageAsked = false; ///< or the question is on its way
+    bool m_bSettlingDamage = false;
+    QTimer m_outsideTimer;
+    bool m_bLookingOutside = false;
     Author m_author;
 };

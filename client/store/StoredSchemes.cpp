@@ -5,6 +5,8 @@
 #include "client/store/SaveTransaction.h"
 #include "client/store/SchemeBackups.h"
 
+#include <QFile>
+
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -58,6 +60,8 @@ StoredSchemes::~StoredSchemes()
 
 void StoredSchemes::Open()
 {
+    m_told.reset();
+    m_bMoveTold = false;
     m_history.Forget();
     m_connection.Open();
     if (IsOpen() && !m_connection.OpeningFailure() && !m_bHistoryGivenUp)
@@ -72,9 +76,7 @@ QString StoredSchemes::GetPath() const
 LoadResult StoredSchemes::Load(AlarmInfoMap& map)
 {
     map.clear();
-    m_base = SchemeBase();
-    m_version.reset();
-    m_asked.reset();
+    ForgetBase();
     m_connection.AllowWaiting(m_busyTimeOut);
     const bool again = std::exchange(m_bHistoryGivenUp, false);
     if (again || !IsOpen() || m_connection.OpeningFailure() || m_connection.IsMoved())
@@ -102,14 +104,45 @@ LoadResult StoredSchemes::Load(AlarmInfoMap& map)
     m_base.held = map;
     m_base.held.detach(); // here, rather than at the first edit in the user interface's thread
     m_version = version;
+    m_bBaseIsShown = true;
     return LoadResult{Reason::None, QString(), notices};
+}
+
+void StoredSchemes::ForgetBase()
+{
+    m_base = SchemeBase();
+    m_version.reset();
+    m_bBaseIsShown = false;
+    m_asked.reset();
+}
+
+bool StoredSchemes::FindOutsideChange()
+{
+    if (!m_bBaseIsShown || !IsOpen())
+        return false;
+    if (m_connection.IsMoved()) // by a copy that was put in its place, or is about to be
+        return QFile::exists(m_connection.FilePath()) && !std::exchange(m_bMoveTold, true);
+    m_connection.AllowWaiting(std::chrono::milliseconds(0));
+    const std::optional<qint64> version = DataVersion();
+    if (!version || version == m_version || version == m_told)
+        return false;
+    m_connection.AllowWaiting(m_busyTimeOut);
+    AlarmSchemeDatabaseParser& store = *m_connection.Store();
+    const int64_t failedBefore = store.FailedStatements();
+    AlarmInfoMap theirs;
+    const bool read = store.ReadAll(&theirs) == 0 && store.FailedStatements() == failedBefore;
+    store.TakeFirstFailure();
+    if (read && theirs == m_base.held) {
+        m_version = version; // written, but not changed
+        return false;
+    }
+    m_told = version;
+    return read && !(m_asked && *m_asked == theirs);
 }
 
 DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage)
 {
-    m_base = SchemeBase();
-    m_version.reset();
-    m_asked.reset();
+    ForgetBase();
     m_history.Forget();
     DamageRepairResult result = DamageRepair(m_connection).Repair(eAnswer, damage);
     Open();
@@ -276,6 +309,7 @@ SaveResult StoredSchemes::RunOnce(const Planner& makePlan, const SaveOrigin& ori
             m_base.held = std::move(*written);
     } else {
         m_version.reset();
+        m_bBaseIsShown = m_bBaseIsShown && plan.Schemes() == 0;
     }
     SaveResult result;
     result.iSchemes = plan.Schemes();

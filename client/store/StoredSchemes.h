@@ -100,6 +100,11 @@ public:
     /// A load has to follow, whatever comes of it.
     DamageRepairResult Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage);
 
+    /// Whether another program has changed the schemes since they were loaded or last found changed, each
+    /// change told once. Never after a save that asked about the change, nor before a load or after a step
+    /// was taken back. As cheap as reading a number while the file is as it was; reads all of it otherwise.
+    bool FindOutsideChange();
+
     /// Lets the history know what has changed outside, as far as that can be told now. After a load.
     void CatchUpHistory();
     void KeepHistoryFor(int iDays) { m_history.KeepFor(iDays); }
@@ -118,6 +123,7 @@ private:
     static SaveResult FailureOf(const std::optional<AlarmSchemeStatementFailure>& failure,
                                 SchemeStoreOutcome::Reason eWithout);
     std::optional<qint64> DataVersion() const;
+    void ForgetBase();
     bool Write(const SavePlan& plan, const SaveTransaction& transaction, SaveProgress& progress);
     void WriteParts(const SavePlan::Change& change);
     void Take(const SavePlan& plan);
@@ -130,6 +136,10 @@ private:
     SchemeBase m_base;
     /// SQLite's mark of the content that m_base holds; nothing when that has to be read again.
     std::optional<qint64> m_version;
+    bool m_bBaseIsShown = false; ///< m_base is what editors know
+    /// The mark of a content that editors were told of although they do not show it.
+    std::optional<qint64> m_told;
+    bool m_bMoveTold = false;
     /// What the operator was asked about.
     std::optional<AlarmInfoMap> m_asked;
 };

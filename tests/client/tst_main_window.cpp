@@ -155,7 +155,7 @@ void TestMainWindow::theStatusBarFollowsThePage()
 {
     QVERIFY(m_window->StatusText().isEmpty());
     QVERIFY(m_window->OpenPage(QStringLiteral("good")));
-    QVERIFY(!m_window->StatusText().isEmpty()); // says that nothing is selected
+    QVERIFY(m_window->StatusText().isEmpty()); // nothing is put into the mouth of a page that says nothing
     auto* pPage = m_window->findChild<QWidget*>(QStringLiteral("page_good"));
     const QString strEdited = QStringLiteral("<b>Main</b> entrance: forced open");
     QMetaObject::invokeMethod(pPage, "Edit", Q_ARG(QString, strEdited));

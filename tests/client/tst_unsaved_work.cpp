@@ -8,6 +8,7 @@
 #include "client/SchemeSaving.h"
 #include "client/UnsavedWork.h"
 #include "client/store/AlarmSchemeStoreBackend.h"
+#include "client/store/SchemeHistoryFile.h"
 #include "platform/LXGUI/LXMessageNotify.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/client_store/OtherProgram.h"
@@ -53,6 +54,11 @@ private Q_SLOTS:
     void aHiddenPageIsAskedAboutToo();
     void loadingAnewAsks();
     void loadingAnewWaitsForTheSave();
+    void aChangeOutsideIsOfferedAndNotLoaded();
+    void aChangeOutsideIsLoadedThroughTheQuestion();
+    void withoutAPageNothingIsOffered();
+    void whatIsSavedOrLoadedTakesTheOfferAway();
+    void aStepTakenBackWhileEditsStayIsNoFailedSave();
     void aSessionEndAsks();
     void aSessionEndWaitsForTheSave();
     void aSessionEndIsStoppedByASaveThatFails();
@@ -76,7 +82,19 @@ private:
         }
         return m_store->Save(map) == 0;
     }
+    QPushButton* Offer() const { return m_window->findChild<QPushButton*>(QStringLiteral("btnLoadAnew")); }
+    static QString LastNote()
+    {
+        return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText();
+    }
     QTabWidget* Tabs() const { return m_window->findChild<QTabWidget*>(QStringLiteral("tabPages")); }
+
+    qint64 NewestStep() const
+    {
+        RawDatabase history(SchemeHistoryFile::PathBeside(m_folder->File()));
+        const auto entries = SchemeHistoryFile(history.Handle(), SchemeHistoryFile::Place::Main).Entries(1);
+        return entries && !entries->isEmpty() ? entries->constFirst().iId : 0;
+    }
 
     std::unique_ptr<LogCatcher> m_log;
     std::unique_ptr<StoreFolder> m_folder;
@@ -303,6 +321,78 @@ void TestUnsavedWork::loadingAnewWaitsForTheSave()
     other.Release();
     QTRY_VERIFY(m_page.isNull());
     QVERIFY(m_store->LastOutcome().IsSuccess());
+}
+
+void TestUnsavedWork::aChangeOutsideIsOfferedAndNotLoaded()
+{
+    QVERIFY(!Offer()->isVisible());
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    Q_EMIT m_store->SignalChangedOutside();
+    QVERIFY(Offer()->isVisible());
+    QVERIFY2(LastNote().contains(QLatin1String("Another program")), qPrintable(LastNote()));
+    QVERIFY(Offer()->accessibleDescription().contains(QLatin1String("Another program")));
+    QVERIFY(!m_page.isNull() && !m_answer->WasGiven());
+    // Nothing was unsaved, and nothing went until the operator took the offer.
+    Offer()->click();
+    QVERIFY(m_page.isNull() && !m_answer->WasGiven());
+}
+
+void TestUnsavedWork::aChangeOutsideIsLoadedThroughTheQuestion()
+{
+    m_page->Edit(QStringLiteral("x"));
+    Q_EMIT m_store->SignalChangedOutside();
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    Offer()->click();
+    QVERIFY(m_answer->WasGiven() && !m_page.isNull() && Offer()->isVisible());
+    m_answer = std::make_unique<DialogAnswer>("btnGiveUp");
+    Offer()->click();
+    QVERIFY(m_page.isNull());
+}
+
+void TestUnsavedWork::withoutAPageNothingIsOffered()
+{
+    m_window->Pages().Discard(m_page);
+    const QString strBefore = LastNote();
+    Q_EMIT m_store->SignalChangedOutside();
+    QVERIFY(!Offer()->isVisible());
+    QCOMPARE(LastNote(), strBefore);
+}
+
+void TestUnsavedWork::whatIsSavedOrLoadedTakesTheOfferAway()
+{
+    Q_EMIT m_store->SignalChangedOutside();
+    QVERIFY(!Store(false) || Offer()->isVisible());
+    m_store->WaitForSaves();
+    QVERIFY(Offer()->isVisible()); // that save has failed
+    QVERIFY(Store(true));
+    m_store->WaitForSaves();
+    QVERIFY(!Offer()->isVisible());
+    Q_EMIT m_store->SignalChangedOutside();
+    QVERIFY(Offer()->isVisible());
+    QCOMPARE(m_store->Load(m_map), 0);
+    QVERIFY(!Offer()->isVisible());
+}
+
+void TestUnsavedWork::aStepTakenBackWhileEditsStayIsNoFailedSave()
+{
+    QVERIFY(Store(true));
+    m_store->WaitForSaves();
+    const QSignalSpy reverted(m_store.get(), &AlarmSchemeStoreBackend::SignalReverted);
+    m_page->Edit(QStringLiteral("x"));
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QCOMPARE(m_store->Revert(NewestStep(), QString()), 0);
+    QTRY_VERIFY(Offer()->isVisible());
+    QCOMPARE(reverted.count(), 1);
+    QVERIFY(m_answer->WasGiven());
+    QVERIFY(m_answer->Question().contains(QLatin1String("loaded anew")));
+    QVERIFY(!m_saving->IsUnsaved());
+    QVERIFY(!m_window->findChild<QLabel*>(QStringLiteral("lblUnsaved"))->isVisible());
+    QVERIFY(!m_page.isNull() && m_page->isWindowModified());
+    // Nobody speaks of a save that failed when the edits are discarded and the window closes.
+    m_page->Undo();
+    m_answer = std::make_unique<DialogAnswer>(Escape);
+    QVERIFY(m_window->close());
+    QVERIFY(!m_answer->WasGiven());
 }
 
 void TestUnsavedWork::aSessionEndAsks()
