@@ -18,7 +18,7 @@ SchemeDamageDialog::SchemeDamageDialog(const SchemeDamage& damage, QWidget* pare
     strText += QLatin1Char('\n') + tr("Whatever you choose, the damaged file is kept.");
     if (damage.backup) {
         ui->btnRestore->setText(
-            tr("&Restore the backup of %1 with %n scheme(s)", nullptr, damage.backup->iSchemes)
+            tr("&Restore the backup of %1 with %Ln scheme(s)", nullptr, damage.backup->iSchemes)
                 .arg(QLocale().toString(damage.backup->time, QLocale::ShortFormat)));
     } else {
         strText += QLatin1Char('\n') + tr("There is no sound backup that could take its place.");
