@@ -345,13 +345,14 @@ void ACSEventSchemeEditor::UpdateSettingsEnabled()
         m_ui->wndSettings->setEnabled(false);
     m_pHint->SetHint(HintText());
 
-    QString strText = tr("No event selected");
-    if (key) {
-        const QString& strSource = m_selection.bExternal ? m_selection.strAlarmInput : m_selection.strSource;
-        strText = QStringLiteral("%1 \u2013 %2")
-                      .arg(EventSourceLookup::NameOf(HostServices::DeviceManager(), strSource),
-                           QCommon::GetAlarmNameByType(key->AlarmType));
-    }
+    // Before an event is chosen the place stands alone.
+    const bool bInput = m_selection.bExternal && !m_selection.strAlarmInput.isEmpty();
+    const QString& strSource = bInput ? m_selection.strAlarmInput : m_selection.strSource;
+    QString strText = strSource.isEmpty()
+                          ? tr("No event selected")
+                          : EventSourceLookup::NameOf(HostServices::DeviceManager(), strSource);
+    if (key)
+        strText += QStringLiteral(" \u2013 ") + QCommon::GetAlarmNameByType(key->AlarmType);
     if (strText != m_strEditedScheme) {
         m_strEditedScheme = strText;
         Q_EMIT SignalEditedSchemeChanged(strText);

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void everySelectionGivesBackItsDeviceAndChannelObjects();
     void theEditedSchemeNamesDoorDeviceAndEvent();
     void theEditedSchemeTellsOfEveryChange();
+    void withoutAnEventTheEditedSchemeNamesThePlace();
     void separatorsDoNotPileUp();
     void theCheckedCategoryIsFollowedByItsContent();
 };
@@ -734,6 +735,15 @@ void TestPageSelection::theEditedSchemeTellsOfEveryChange()
     QVERIFY(page.hands.ClickDoor(Sealed) && tellsNew());
     QVERIFY(page.hands.ClickDoor(Hatch));
     QCOMPARE(told.count(), 0);
+}
+
+void TestPageSelection::withoutAnEventTheEditedSchemeNamesThePlace()
+{
+    PageHost host;
+    OpenPage page(&host.managers);
+    QCOMPARE(page.Page().GetEditedScheme(), QStringLiteral("No event selected"));
+    QVERIFY(page.hands.ClickDevice(Vault)); // without alarm inputs
+    QCOMPARE(page.Page().GetEditedScheme(), QStringLiteral("Vault"));
 }
 
 void TestPageSelection::separatorsDoNotPileUp()
