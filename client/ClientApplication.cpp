@@ -236,6 +236,7 @@ void ClientApplication::PrepareSchemes()
         m_drafts.get(), &DraftKeeper::SignalWriteFailed, m_window.get(), [this](const QString& strReason) {
             m_window->AddProblem(tr("Unsaved changes cannot be kept against a crash: %1.").arg(strReason));
         });
+    m_store = backend.get();
     AlarmSchemeManager::Instance()->SetBackend(std::move(backend));
 }
 
@@ -271,7 +272,7 @@ void ClientApplication::OfferDrafts()
     if (!m_options.strPictureFile.isEmpty()) {
         return; // nobody is there to answer
     }
-    m_draftOffer = std::make_unique<DraftOffer>(*m_drafts, *m_window, *m_plugins);
+    m_draftOffer = std::make_unique<DraftOffer>(*m_drafts, *m_store, *m_window, *m_plugins);
     // Over the window, once it is drawn, and not within the start.
     QMetaObject::invokeMethod(m_draftOffer.get(), &DraftOffer::Run, Qt::QueuedConnection);
 }

@@ -7,10 +7,12 @@
 #include "client/TreeExpansion.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
 
+class AlarmSchemeStoreBackend;
 class ClientSettings;
 class ClientTranslations;
 class DraftKeeper;
@@ -79,6 +81,7 @@ private:
     HubManager m_hub;
     DeviceFunctionManager m_deviceFunctions;
     std::unique_ptr<MainWindow> m_window;
+    QPointer<AlarmSchemeStoreBackend> m_store; ///< the scheme manager's
     std::unique_ptr<SchemeSaving> m_saving;
     std::unique_ptr<DraftKeeper> m_drafts;
     std::unique_ptr<DraftOffer> m_draftOffer;

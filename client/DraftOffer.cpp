@@ -6,6 +6,7 @@
 #include "client/PageTabs.h"
 #include "client/PluginLoader.h"
 #include "client/QuestionDialog.h"
+#include "client/store/AlarmSchemeStoreBackend.h"
 #include "platform/LXGUI/LXMessageNotify.h"
 
 #include <QDir>
@@ -13,27 +14,41 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <vector>
 
-DraftOffer::DraftOffer(DraftKeeper& keeper, MainWindow& window, const PluginLoader& plugins, QObject* parent)
+DraftOffer::DraftOffer(DraftKeeper& keeper, AlarmSchemeStoreBackend& store, MainWindow& window,
+                       const PluginLoader& plugins, QObject* parent)
     : QObject(parent)
     , m_keeper(keeper)
+    , m_store(&store)
     , m_window(window)
     , m_plugins(plugins)
 {
+    // Later: what the end of the damage brings about, a reload, comes first.
+    connect(&store, &AlarmSchemeStoreBackend::SignalDamageSettled, this, &DraftOffer::GoOn,
+            Qt::QueuedConnection);
 }
 
 DraftOffer::~DraftOffer() = default;
 
 void DraftOffer::Run()
 {
+    m_files = DraftFile::Orphans(m_keeper.Folder());
+    std::reverse(m_files.begin(), m_files.end());
+    GoOn();
+}
+
+void DraftOffer::GoOn()
+{
     const QPointer<DraftOffer> self(this);
-    std::vector<std::unique_ptr<DraftFile>> files = DraftFile::Orphans(m_keeper.Folder());
-    for (std::unique_ptr<DraftFile>& file : files) {
+    while (!m_bAsking && !m_files.empty() && !m_store.isNull() && !m_store->IsSettlingDamage()) {
+        std::unique_ptr<DraftFile> file = std::move(m_files.back());
+        m_files.pop_back();
+        m_bAsking = true;
         Offer(std::move(file));
         if (self.isNull()) {
             return;
         }
+        m_bAsking = false;
     }
 }
 

@@ -11,6 +11,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -88,6 +90,7 @@ private Q_SLOTS:
     void undoingEverythingLeavesNothingToAskAbout();
     void theSearchKeepsItsOwnUndo();
     void aKilledProgramsEditsAreOfferedAndRestored();
+    void aDraftIsOfferedAfterTheQuestionAboutTheDamage();
     void aDraftCanWaitAndBeDiscarded();
     void aProgramThatRunsKeepsItsDraftToItself();
     void aBrokenDraftIsSetAsideAndSaid();
@@ -119,6 +122,14 @@ private:
     {
         QVERIFY(m_driver->ClickNode(MainEntrance, KindChannel));
         QVERIFY(m_driver->ClickEvent(QCommon::GetAlarmNameByType(EventType())));
+    }
+    /// The database is none any more.
+    void Damage()
+    {
+        QVERIFY(QDir().mkpath(m_data->filePath(QStringLiteral("Database"))));
+        QFile file(m_data->filePath(QStringLiteral("Database/AlarmScheme.db")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write(QByteArray("Dear guard, this is a letter and no database.\n").repeated(100)) > 0);
     }
     /// Another process with an edit that it has kept in a draft.
     void StartOther()
@@ -210,11 +221,7 @@ void TestNothingLost::savingInTheQuestionStoresAndThenCloses()
 
 void TestNothingLost::aSaveThatIsRefusedKeepsTheProgramOpen()
 {
-    QVERIFY(QDir().mkpath(m_data->filePath(QStringLiteral("Database"))));
-    QFile file(m_data->filePath(QStringLiteral("Database/AlarmScheme.db")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write(QByteArray("Dear guard, this is a letter and no database.\n").repeated(100)) > 0);
-    file.close();
+    Damage();
     m_driver = std::make_unique<ClientDriver>(m_data->path());
     m_driver->AnswerDialogs({Press("btnLeaveAlone"), Press("btnKeep")});
     QVERIFY(m_driver->Start());
@@ -327,6 +334,38 @@ void TestNothingLost::aKilledProgramsEditsAreOfferedAndRestored()
     QCOMPARE(Stored(), QStringLiteral("1|0|0"));
     QTRY_COMPARE(Drafts(), QStringList());
     QVERIFY(Window()->close());
+}
+
+void TestNothingLost::aDraftIsOfferedAfterTheQuestionAboutTheDamage()
+{
+    StartOther();
+    KillOther();
+    Damage();
+    QStringList dialogs;
+    QList<int> open; // dialogs, when each of them was answered
+    const auto answer = [&](const char* szButton) {
+        return [&dialogs, &open, szButton](QWidget* pDialog) {
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            open.append(
+                static_cast<int>(std::count_if(windows.cbegin(), windows.cend(), [](const QWidget* pWindow) {
+                    return pWindow->isVisible() && qobject_cast<const QDialog*>(pWindow) != nullptr;
+                })));
+            dialogs.append(pDialog->objectName());
+            Press(szButton)(pDialog);
+        };
+    };
+    m_driver = std::make_unique<ClientDriver>(m_data->path());
+    m_driver->AnswerDialogs({answer("btnStartEmpty"), answer("btnKeep")});
+    QVERIFY(m_driver->Start());
+    QTRY_COMPARE(m_driver->AnsweredDialogs(), 2);
+    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QCOMPARE(dialogs, (QStringList{QStringLiteral("SchemeDamageDialog"), QStringLiteral("QuestionDialog")}));
+    QCOMPARE(open, (QList<int>{1, 1}));
+    QVERIFY(m_driver->Page() != nullptr && m_driver->Page()->isWindowModified());
+    Activate();
+    ShowEditedScheme();
+    QVERIFY(m_driver->ClickButton("btnSave"));
+    QCOMPARE(Stored(), QStringLiteral("1|0|0"));
 }
 
 void TestNothingLost::aDraftCanWaitAndBeDiscarded()
