@@ -194,7 +194,7 @@ void MailSettingsDialog::OnTest()
     if (m_pSender->Send(job)) {
         ui->lblProblem->clear();
         ShowTest(QStringLiteral("information"),
-                 tr("Sending a test mail through %1 …").arg(m_tested.strServer));
+                 tr("Sending a test mail through %1…").arg(m_tested.strServer));
         UpdateState();
         ui->btnStop->setFocus();
     }

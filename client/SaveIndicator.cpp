@@ -15,7 +15,7 @@ constexpr int BarHeight = 12;
 
 SaveIndicator::SaveIndicator(QWidget* parent)
     : QWidget(parent)
-    , m_pText(new QLabel(tr("Saving..."), this))
+    , m_pText(new QLabel(tr("Saving…"), this))
     , m_pBar(new QProgressBar(this))
 {
     setObjectName(QStringLiteral("wndSaveIndicator"));

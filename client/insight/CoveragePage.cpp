@@ -83,7 +83,7 @@ void CoveragePage::LookThrough()
         ui->lblFindings->setText(m_schemes.Problem());
         return;
     }
-    ui->lblFindings->setText(tr("Looking through the schemes..."));
+    ui->lblFindings->setText(tr("Looking through the schemes…"));
     m_findingsJob.Start([this, schemes = m_schemes.Schemes(),
                          site = m_site](const BackgroundJob::Stop& stop) -> BackgroundJob::Result {
         const QVector<Finding> findings =

@@ -95,7 +95,7 @@ void HistoryPage::OnStepChanged()
     const SchemeHistoryEntry& entry = m_model.At(rows.constFirst().row());
     // The beginning is nothing that somebody did.
     ui->btnTakeBack->setEnabled(entry.eKind != SchemeHistoryKind::Start);
-    ui->lblChanges->setText(tr("Reading..."));
+    ui->lblChanges->setText(tr("Reading…"));
     m_changesJob.Start(
         [this, iId = entry.iId, strFile = m_strFile](const BackgroundJob::Stop&) -> BackgroundJob::Result {
             SchemeHistoryReader reader(strFile);
