@@ -250,6 +250,18 @@ private Q_SLOTS:
         QCOMPARE(lost.join(QLatin1Char('\n')), QString());
     }
 
+    void theListOfTheExampleStandsInItsPage()
+    {
+        const auto lines = [](const QString& strFile) {
+            // Neither empty ones nor comments.
+            return Text(strFile).split(QLatin1Char('\n')).filter(QRegularExpression(QStringLiteral("^[^#]")));
+        };
+        const QStringList list = lines(QStringLiteral("examples/minimal_module/CMakeLists.txt"));
+        QVERIFY(list.size() > 8);
+        const QStringList page = lines(QStringLiteral("docs/plugin-api.md"));
+        QCOMPARE(page.mid(page.indexOf(list.constFirst()), list.size()), list);
+    }
+
     void everyPictureIsShownAndLight()
     {
         QSet<QString> shown;
