@@ -8,7 +8,6 @@ LoadAnewOffer::LoadAnewOffer(QWidget* parent)
     : QPushButton(tr("Schemes have changed: load anew"), parent)
 {
     setObjectName(QStringLiteral("btnLoadAnew"));
-    setFlat(true);
     hide();
 }
 

@@ -451,10 +451,6 @@
         <translation>All categories</translation>
     </message>
     <message>
-        <source>Looking through the schemes...</source>
-        <translation>Looking through the schemes...</translation>
-    </message>
-    <message>
         <source>No scheme is switched on here; nothing is ever armed.</source>
         <translation>No scheme is switched on here; nothing is ever armed.</translation>
     </message>
@@ -472,6 +468,10 @@
     <message>
         <source>Errors: %1, warnings: %2, notes: %3</source>
         <translation>Errors: %1, warnings: %2, notes: %3</translation>
+    </message>
+    <message>
+        <source>Looking through the schemes…</source>
+        <translation>Looking through the schemes…</translation>
     </message>
 </context>
 <context>
@@ -1064,10 +1064,6 @@
         <translation>Steps</translation>
     </message>
     <message>
-        <source>&amp;Take back...</source>
-        <translation>&amp;Take back...</translation>
-    </message>
-    <message>
         <source>Makes the schemes of this step what they were before it</source>
         <translation>Makes the schemes of this step what they were before it</translation>
     </message>
@@ -1078,10 +1074,6 @@
     <message>
         <source>Pick a step to see what it has changed.</source>
         <translation>Pick a step to see what it has changed.</translation>
-    </message>
-    <message>
-        <source>Reading...</source>
-        <translation>Reading...</translation>
     </message>
     <message numerus="yes">
         <source>%n scheme(s) changed:</source>
@@ -1124,6 +1116,14 @@
             <numerusform>%n scheme was not taken back, because it has changed since:</numerusform>
             <numerusform>%n schemes were not taken back, because they have changed since:</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&amp;Take back…</source>
+        <translation>&amp;Take back…</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Reading…</translation>
     </message>
 </context>
 <context>
@@ -1315,6 +1315,17 @@
     <message>
         <source>Schemes: %1, switched on: %2</source>
         <translation>Schemes: %1, switched on: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LoadAnewOffer</name>
+    <message>
+        <source>Schemes have changed: load anew</source>
+        <translation>Schemes have changed: load anew</translation>
+    </message>
+    <message>
+        <source>The open pages show the schemes as they were when they were loaded.</source>
+        <translation>The open pages show the schemes as they were when they were loaded.</translation>
     </message>
 </context>
 <context>
@@ -1538,10 +1549,6 @@
         <translation>empty: those of the system</translation>
     </message>
     <message>
-        <source>&amp;Browse …</source>
-        <translation>&amp;Browse …</translation>
-    </message>
-    <message>
         <source>Send a &amp;test mail</source>
         <translation>Send a &amp;test mail</translation>
     </message>
@@ -1586,8 +1593,12 @@ If you can read it, mail about alarms will arrive here.
 </translation>
     </message>
     <message>
-        <source>Sending a test mail through %1 …</source>
-        <translation>Sending a test mail through %1 …</translation>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Browse…</translation>
+    </message>
+    <message>
+        <source>Sending a test mail through %1…</source>
+        <translation>Sending a test mail through %1…</translation>
     </message>
 </context>
 <context>
@@ -1688,10 +1699,6 @@ Data directory: %2</translation>
     <message>
         <source>The data directory is %1</source>
         <translation>The data directory is %1</translation>
-    </message>
-    <message>
-        <source>No event is selected.</source>
-        <translation>No event is selected.</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -2348,12 +2355,12 @@ Data directory: %2</translation>
 <context>
     <name>SaveIndicator</name>
     <message>
-        <source>Saving...</source>
-        <translation>Saving...</translation>
-    </message>
-    <message>
         <source>Schemes saved</source>
         <translation>Schemes saved</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation>Saving…</translation>
     </message>
 </context>
 <context>
@@ -2554,16 +2561,16 @@ Data directory: %2</translation>
         <source>Whatever you choose, the damaged file is kept.</source>
         <translation>Whatever you choose, the damaged file is kept.</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Restore the backup of %1 with %n scheme(s)</source>
-        <translation>
-            <numerusform>&amp;Restore the backup of %1 with %n scheme</numerusform>
-            <numerusform>&amp;Restore the backup of %1 with %n schemes</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no sound backup that could take its place.</source>
         <translation>There is no sound backup that could take its place.</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Restore the backup of %1 with %Ln scheme(s)</source>
+        <translation>
+            <numerusform>&amp;Restore the backup of %1 with %Ln scheme</numerusform>
+            <numerusform>&amp;Restore the backup of %1 with %Ln schemes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2667,6 +2674,17 @@ Data directory: %2</translation>
     <message>
         <source>There is no event type &quot;%1&quot;.</source>
         <translation>There is no event type &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeSaving</name>
+    <message>
+        <source>Another program has changed the schemes.</source>
+        <translation>Another program has changed the schemes.</translation>
+    </message>
+    <message>
+        <source>The stored schemes are no longer those that were loaded.</source>
+        <translation>The stored schemes are no longer those that were loaded.</translation>
     </message>
 </context>
 <context>
@@ -3928,6 +3946,13 @@ Data directory: %2</translation>
         <source>%1: %2</source>
         <comment>scheme, whether and how long it switches the output on</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>this is no file</source>
+        <translation>this is no file</translation>
     </message>
 </context>
 </TS>

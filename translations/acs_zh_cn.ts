@@ -449,10 +449,6 @@
         <translation>所有类别</translation>
     </message>
     <message>
-        <source>Looking through the schemes...</source>
-        <translation>正在检查预案...</translation>
-    </message>
-    <message>
         <source>No scheme is switched on here; nothing is ever armed.</source>
         <translation>此处未启用任何预案，始终不会布防。</translation>
     </message>
@@ -469,6 +465,10 @@
     <message>
         <source>Errors: %1, warnings: %2, notes: %3</source>
         <translation>错误：%1，警告：%2，提示：%3</translation>
+    </message>
+    <message>
+        <source>Looking through the schemes…</source>
+        <translation>正在检查预案…</translation>
     </message>
 </context>
 <context>
@@ -1059,10 +1059,6 @@
         <translation>步骤</translation>
     </message>
     <message>
-        <source>&amp;Take back...</source>
-        <translation>撤回(&amp;T)...</translation>
-    </message>
-    <message>
         <source>Makes the schemes of this step what they were before it</source>
         <translation>将此步骤涉及的预案恢复到该步骤之前的状态</translation>
     </message>
@@ -1073,10 +1069,6 @@
     <message>
         <source>Pick a step to see what it has changed.</source>
         <translation>请选择步骤，以查看其更改内容。</translation>
-    </message>
-    <message>
-        <source>Reading...</source>
-        <translation>正在读取...</translation>
     </message>
     <message numerus="yes">
         <source>%n scheme(s) changed:</source>
@@ -1116,6 +1108,14 @@
         <translation>
             <numerusform>有 %n 个预案之后又有更改，未撤回：</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&amp;Take back…</source>
+        <translation>撤回(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
     </message>
 </context>
 <context>
@@ -1306,6 +1306,17 @@
     <message>
         <source>Schemes: %1, switched on: %2</source>
         <translation>预案：%1，已启用：%2</translation>
+    </message>
+</context>
+<context>
+    <name>LoadAnewOffer</name>
+    <message>
+        <source>Schemes have changed: load anew</source>
+        <translation>预案已更改：重新加载</translation>
+    </message>
+    <message>
+        <source>The open pages show the schemes as they were when they were loaded.</source>
+        <translation>打开的页面显示的是加载时的预案。</translation>
     </message>
 </context>
 <context>
@@ -1529,10 +1540,6 @@
         <translation>留空：使用系统证书</translation>
     </message>
     <message>
-        <source>&amp;Browse …</source>
-        <translation>浏览(&amp;B) …</translation>
-    </message>
-    <message>
         <source>Send a &amp;test mail</source>
         <translation>发送测试邮件(&amp;T)</translation>
     </message>
@@ -1577,8 +1584,12 @@ If you can read it, mail about alarms will arrive here.
 </translation>
     </message>
     <message>
-        <source>Sending a test mail through %1 …</source>
-        <translation>正在通过 %1 发送测试邮件 …</translation>
+        <source>&amp;Browse…</source>
+        <translation>浏览(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Sending a test mail through %1…</source>
+        <translation>正在通过 %1 发送测试邮件…</translation>
     </message>
 </context>
 <context>
@@ -1678,10 +1689,6 @@ Data directory: %2</source>
     <message>
         <source>The data directory is %1</source>
         <translation>数据目录为 %1</translation>
-    </message>
-    <message>
-        <source>No event is selected.</source>
-        <translation>未选择事件。</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -2336,12 +2343,12 @@ Data directory: %2</source>
 <context>
     <name>SaveIndicator</name>
     <message>
-        <source>Saving...</source>
-        <translation>正在保存...</translation>
-    </message>
-    <message>
         <source>Schemes saved</source>
         <translation>预案已保存</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation>正在保存…</translation>
     </message>
 </context>
 <context>
@@ -2532,15 +2539,15 @@ Data directory: %2</source>
         <source>Whatever you choose, the damaged file is kept.</source>
         <translation>无论如何选择，已损坏的文件都会保留。</translation>
     </message>
-    <message numerus="yes">
-        <source>&amp;Restore the backup of %1 with %n scheme(s)</source>
-        <translation>
-            <numerusform>恢复 %1 的备份，含 %n 个预案(&amp;R)</numerusform>
-        </translation>
-    </message>
     <message>
         <source>There is no sound backup that could take its place.</source>
         <translation>没有可用于替换的完好备份。</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Restore the backup of %1 with %Ln scheme(s)</source>
+        <translation>
+            <numerusform>恢复 %1 的备份，含 %Ln 个预案(&amp;R)</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2644,6 +2651,17 @@ Data directory: %2</source>
     <message>
         <source>There is no event type &quot;%1&quot;.</source>
         <translation>没有事件类型“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeSaving</name>
+    <message>
+        <source>Another program has changed the schemes.</source>
+        <translation>另一个程序已更改预案。</translation>
+    </message>
+    <message>
+        <source>The stored schemes are no longer those that were loaded.</source>
+        <translation>已存储的预案与加载的预案不再相同。</translation>
     </message>
 </context>
 <context>
@@ -3897,6 +3915,13 @@ Data directory: %2</source>
         <source>%1: %2</source>
         <comment>scheme, whether and how long it switches the output on</comment>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>this is no file</source>
+        <translation>这不是文件</translation>
     </message>
 </context>
 </TS>
