@@ -352,8 +352,8 @@ void AlarmSchemeStoreBackend::OnDamage(const std::optional<SchemeDamage>& damage
         EndOfDamage();
         return;
     }
-    const auto repair = [this, damage = *damage, answer] {
-        const DamageRepairResult result = m_schemes->Repair(answer, damage);
+    const auto repair = [this, damage = *damage, answer, who = m_author ? m_author() : QString()] {
+        const DamageRepairResult result = m_schemes->Repair(answer, damage, who);
         QMetaObject::invokeMethod(
             this,
             [this, result, damage, answer, open = m_schemes->IsOpen(), path = m_schemes->GetPath(),

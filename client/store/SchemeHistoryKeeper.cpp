@@ -36,6 +36,7 @@ void SchemeHistoryKeeper::Forget()
 {
     m_file.reset();
     m_pDatabase = nullptr;
+    m_announced.reset();
     m_bFailed = false;
     m_strFailure.clear();
 }
@@ -77,22 +78,27 @@ bool SchemeHistoryKeeper::NoteUntilNow(const AlarmInfoMap& held)
     if (m_iDays && !m_file->DropBefore(QDateTime::currentDateTimeUtc().addDays(-*m_iDays)))
         return Fail();
     const std::optional<quint32> noted = m_file->SchemeFileCounter();
-    if (noted == m_iCounter)
+    if (noted == m_iCounter && !m_announced) // another file may have counted as far
         return true;
-    if (!NoteOutside(held, !noted) || !m_file->SetSchemeFileCounter(m_iCounter))
+    SchemeHistoryEntry entry;
+    entry.eKind = SchemeHistoryKind::Outside;
+    if (m_announced)
+        entry = *m_announced;
+    if (!noted)
+        entry.eKind = SchemeHistoryKind::Start;
+    if (!NoteDifference(held, entry) || !m_file->SetSchemeFileCounter(m_iCounter))
         return Fail();
+    m_announced.reset();
     return true;
 }
 
-bool SchemeHistoryKeeper::NoteOutside(const AlarmInfoMap& held, bool bFirst)
+bool SchemeHistoryKeeper::NoteDifference(const AlarmInfoMap& held, SchemeHistoryEntry entry)
 {
-    SchemeHistoryEntry entry;
     entry.time = QDateTime::currentDateTimeUtc();
     const std::optional<AlarmInfoMap> state = m_file->State();
     if (!state)
         return false;
     const SchemeHistoryChanges changes = SchemeHistoryBetween(*state, held);
-    entry.eKind = bFirst ? SchemeHistoryKind::Start : SchemeHistoryKind::Outside;
     return changes.isEmpty() || m_file->Append(entry, changes);
 }
 

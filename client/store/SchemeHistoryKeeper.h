@@ -27,6 +27,9 @@ public:
     /// Steps older than that are dropped when the history is next caught up; none are before it is said.
     void KeepFor(int iDays) { m_iDays = iDays; }
 
+    /// What is found to have changed when the history is next caught up is this step, not another program's.
+    void Announce(const SchemeHistoryEntry& entry) { m_announced = entry; }
+
     /// Reads how often the scheme file has been written; false when it cannot be told.
     bool ReadCounter();
     /// Notes what other programs have changed since the last step, so that the history ends with what the
@@ -52,11 +55,12 @@ public:
 
 private:
     bool Fail();
-    bool NoteOutside(const AlarmInfoMap& held, bool bFirst);
+    bool NoteDifference(const AlarmInfoMap& held, SchemeHistoryEntry entry);
 
     sqlite3* m_pDatabase = nullptr;
     std::optional<SchemeHistoryFile> m_file;
     std::optional<int> m_iDays;
+    std::optional<SchemeHistoryEntry> m_announced;
     quint32 m_iCounter = 0; ///< of the scheme file, when it was last read
     bool m_bFailed = false;
     QString m_strFailure;

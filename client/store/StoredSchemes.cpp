@@ -6,6 +6,7 @@
 #include "client/store/SchemeBackups.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <sqlite3.h>
 
@@ -140,12 +141,20 @@ bool StoredSchemes::FindOutsideChange()
     return read && !(m_asked && *m_asked == theirs);
 }
 
-DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage)
+DamageRepairResult StoredSchemes::Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage,
+                                         const QString& strWho)
 {
     ForgetBase();
     m_history.Forget();
     DamageRepairResult result = DamageRepair(m_connection).Repair(eAnswer, damage);
     Open();
+    if (!result.strKeptAs.isEmpty() && eAnswer == SchemeDamageAnswer::Restore && damage.backup) {
+        SchemeHistoryEntry entry;
+        entry.eKind = SchemeHistoryKind::Restore;
+        entry.strWho = strWho;
+        entry.strNote = QFileInfo(damage.backup->strPath).fileName();
+        m_history.Announce(entry);
+    }
     return result;
 }
 

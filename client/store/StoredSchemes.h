@@ -97,8 +97,8 @@ public:
     /// Whether the opening has found the file damaged, and what there is in its stead.
     bool IsDamaged() const { return m_connection.IsDamaged(); }
     std::optional<SchemeDamage> Damage() { return DamageRepair(m_connection).Damage(); }
-    /// A load has to follow, whatever comes of it.
-    DamageRepairResult Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage);
+    /// A load has to follow, whatever comes of it. The history tells of a backup that was restored, by whom.
+    DamageRepairResult Repair(SchemeDamageAnswer eAnswer, const SchemeDamage& damage, const QString& strWho);
 
     /// Whether another program has changed the schemes since they were loaded or last found changed, each
     /// change told once. Never after a save that asked about the change, nor before a load or after a step

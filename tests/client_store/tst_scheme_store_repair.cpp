@@ -2,6 +2,7 @@
 
 #include "client/store/FileHealth.h"
 #include "client/store/SchemeBackups.h"
+#include "client/store/SchemeHistoryReader.h"
 #include "client/store/StoredSchemes.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/client_store/SaveAndWait.h"
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void theQuestionComesWithoutAnyLoad();
     void aLoadIsNotHeldUpByTheQuestion();
     void savingGoesOnAfterARepair();
+    void theHistoryTellsOfTheBackupThatWasRestored();
     void aRepairOfWhatSomebodyElseHasRepairedChangesNothing();
     void anotherClientThatHasItOpenIsInTheWay();
     void aRepairThatFailsLeavesEverythingAndMayBeTriedAgain();
@@ -369,6 +371,28 @@ void SchemeStoreRepairTest::savingGoesOnAfterARepair()
     QCOMPARE(client.Save(SchemeFiles::Map(25)), 0);
     QVERIFY(SchemeFiles::Read(m_folder->File()) == SchemeFiles::Map(25));
     QVERIFY(!QFileInfo::exists(m_folder->File() + QStringLiteral(".open-2")));
+}
+
+void SchemeStoreRepairTest::theHistoryTellsOfTheBackupThatWasRestored()
+{
+    PrepareTwoBackups(); // of 10 and of 20 schemes
+    const QString backup = QFileInfo(Backups().List().constFirst().strPath).fileName();
+    SchemeFiles::DamageTable(m_folder->File());
+    Client client(Answer::Restore);
+    client.store.SetAuthor([] { return QStringLiteral("anna"); });
+    QTRY_COMPARE(client.repairs.size(), 1);
+    QCOMPARE(client.store.Load(client.map), 0);
+    QCOMPARE(client.Save(SchemeFiles::Map(25)), 0);
+
+    SchemeHistoryReader history(m_folder->File());
+    const std::optional<QList<SchemeHistoryEntry>> entries = history.Entries(2);
+    QVERIFY2(entries && entries->size() == 2, qPrintable(history.Problem()));
+    QVERIFY(entries->at(0).eKind == SchemeHistoryKind::Save);
+    const SchemeHistoryEntry& restored = entries->at(1);
+    QVERIFY(restored.eKind == SchemeHistoryKind::Restore);
+    QCOMPARE(restored.strWho, QStringLiteral("anna"));
+    QCOMPARE(restored.strNote, backup);
+    QVERIFY(SchemeHistoryBetween(SchemeFiles::Map(30), SchemeFiles::Map(20)).size() == restored.iSchemes);
 }
 
 void SchemeStoreRepairTest::aRepairOfWhatSomebodyElseHasRepairedChangesNothing()
