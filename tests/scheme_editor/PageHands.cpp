@@ -1,7 +1,7 @@
 #include "tests/scheme_editor/PageHands.h"
 
+#include "AlarmCtrl/QAlarmDayDetailEditor.h"
 #include "AlarmCtrl/QAlarmDayEditor.h"
-#include "AlarmCtrl/QAlarmDefenceTimeEditor.h"
 #include "AlarmCtrl/QAlarmListItem.h"
 #include "AlarmCtrl/QAlarmListItemView.h"
 #include "AlarmCtrl/QAlarmOutEditor.h"
@@ -10,13 +10,14 @@
 #include "platform/VantaModel/ACSGroupTreeModel.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QStyleOptionViewItem>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -213,10 +214,7 @@ bool PageHands::ToggleDay(int iDay) const
 {
     if (!ClickTab("btnDefTime"))
         return false;
-    const auto* const pEditor = m_page.findChild<QAlarmDefenceTimeEditor*>();
-    const auto* const pBar = pEditor->findChild<QAlarmDayEditor*>(QStringLiteral("editor%1").arg(iDay));
-    QWidget* const pDisplay =
-        pBar == nullptr ? nullptr : pBar->findChild<QWidget*>(QStringLiteral("wndDisplay"));
+    QWidget* const pDisplay = DayBar(iDay);
     if (pDisplay == nullptr || !pDisplay->isVisible() || !pDisplay->isEnabled())
         return false;
     const int width = pDisplay->width();
@@ -225,6 +223,31 @@ bool PageHands::ToggleDay(int iDay) const
     SendMouse(pDisplay, QEvent::MouseMove, width, Qt::NoButton, Qt::LeftButton);
     SendMouse(pDisplay, QEvent::MouseButtonRelease, width, Qt::LeftButton, Qt::NoButton);
     return true;
+}
+
+bool PageHands::OpenDay(int iDay, const std::function<void(QAlarmDayDetailEditor&)>& act) const
+{
+    const auto* const pDay = m_page.findChild<QAlarmDayEditor*>(QStringLiteral("editor%1").arg(iDay));
+    if (pDay == nullptr || !ClickTab("btnDefTime"))
+        return false;
+    bool bOpened = false;
+    QTimer::singleShot(0, qApp, [&act, &bOpened] {
+        auto* const pDialog = qobject_cast<QAlarmDayDetailEditor*>(QApplication::activeModalWidget());
+        bOpened = pDialog != nullptr;
+        if (bOpened)
+            act(*pDialog);
+    });
+    return Click(pDay->findChild<QWidget*>(QStringLiteral("btnDetail"))) && bOpened;
+}
+
+bool PageHands::LinkAndGoToTime(int64_t iChannelId) const
+{
+    // Looked at again and again: to the page a loop of events of its own would be a dialog that runs.
+    const QSignalSpy steps(&m_page, &ACSEventSchemeEditor::SignalUndoChanged);
+    if (!ToggleOutput(iChannelId) || !QTest::qWaitFor([&steps] { return !steps.isEmpty(); }))
+        return false;
+    TimeField()->setFocus();
+    return QTest::qWaitFor([this] { return TimeField()->hasFocus(); });
 }
 
 bool PageHands::Save() const
@@ -270,6 +293,16 @@ QStringList PageHands::VisibleCategories() const
             names.append(QLatin1String(name));
     }
     return names;
+}
+
+QStringList PageHands::DoorCategories()
+{
+    return {QStringLiteral("btnAlarm"), QStringLiteral("btnAbnormal"), QStringLiteral("btnNormal")};
+}
+
+QStringList PageHands::DeviceCategories()
+{
+    return {QStringLiteral("btnExternalAlarm")};
 }
 
 QAlarmListItemView* PageHands::VisibleList() const
@@ -344,6 +377,17 @@ LXGUI::LXSwitchButton* PageHands::Switch(const char* szName) const
     return m_page.findChild<LXGUI::LXSwitchButton*>(QLatin1String(szName));
 }
 
+QWidget* PageHands::DayBar(int iDay) const
+{
+    const auto* const pDay = m_page.findChild<QAlarmDayEditor*>(QStringLiteral("editor%1").arg(iDay));
+    return pDay == nullptr ? nullptr : pDay->findChild<QWidget*>(QStringLiteral("wndDisplay"));
+}
+
+QLineEdit* PageHands::TimeField() const
+{
+    return m_page.findChild<QLineEdit*>(QStringLiteral("edtTime"));
+}
+
 QAlarmListItemView* PageHands::List(const char* szName) const
 {
     return m_page.findChild<QAlarmListItemView*>(QLatin1String(szName));
@@ -362,34 +406,4 @@ QTreeView* PageHands::TreeView() const
 QTreeWidget* PageHands::InputTree() const
 {
     return m_page.findChild<QTreeWidget*>(QStringLiteral("treeAlarmIn"));
-}
-
-OpenPage::OpenPage(const LXPluginAPI::ManagerList* pManagers)
-    : m_page(std::make_unique<ACSEventSchemeEditor>(nullptr))
-    , hands(*m_page)
-{
-    m_page->Init(pManagers);
-    m_page->show();
-}
-
-OpenPage::~OpenPage() = default;
-
-const AlarmInfoMap& OpenPage::Schemes() const
-{
-    return m_page->GetAlarmInfoMap();
-}
-
-AlarmInfo OpenPage::Scheme(const QString& strSource, int32_t iType) const
-{
-    return Schemes().value({strSource, iType});
-}
-
-bool OpenPage::Holds(const QString& strSource, int32_t iType) const
-{
-    return Schemes().contains({strSource, iType});
-}
-
-void OpenPage::Close()
-{
-    m_page.reset();
 }

@@ -1,19 +1,18 @@
 #pragma once
 
-#include "AlarmCtrl/AlarmSchemeData/AlarmInfo.h"
-#include "platform/LXPluginAPI/IManager.h"
-
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
-#include <memory>
+#include <functional>
 
 class ACSEventSchemeEditor;
+class QAlarmDayDetailEditor;
 class QAbstractButton;
 class QAlarmListItem;
 class QAlarmListItemView;
 class QLabel;
+class QLineEdit;
 class QModelIndex;
 class QTreeView;
 class QTreeWidget;
@@ -55,6 +54,10 @@ public:
     bool ToggleMail() const;
     bool ToggleOutput(int64_t iChannelId) const; ///< shows the output tab first
     bool ToggleDay(int iDay) const; ///< shows the week plan first; a whole day becomes empty and back
+    /// Opens the day's dialog and acts in it until it closes.
+    bool OpenDay(int iDay, const std::function<void(QAlarmDayDetailEditor&)>& act) const;
+    /// Links an output, and once the page knows of it, puts the keyboard into the field of its time.
+    bool LinkAndGoToTime(int64_t iChannelId) const;
     bool Save() const;
 
     static bool Click(QWidget* pWidget);
@@ -67,6 +70,8 @@ public:
     bool IsMailShown() const;
     QString SettingType() const;
     QStringList VisibleCategories() const; ///< object names, from the top
+    static QStringList DoorCategories();   ///< those that belong to a door
+    static QStringList DeviceCategories();
     QAlarmListItemView* VisibleList() const;
     bool HasMark(const char* szList, int32_t iType) const;
     QStringList InputKeys() const;
@@ -78,6 +83,8 @@ public:
     QWidget* Widget(const char* szName) const;
     QAbstractButton* Button(const char* szName) const;
     LXGUI::LXSwitchButton* Switch(const char* szName) const;
+    QWidget* DayBar(int iDay) const;
+    QLineEdit* TimeField() const;
     QAlarmListItemView* List(const char* szName) const;
     VantaComponent::GroupTreeCtrl* Tree() const;
     QTreeView* TreeView() const;
@@ -89,26 +96,4 @@ private:
     bool ClickInputItem(const QTreeWidgetItem* pItem) const;
 
     ACSEventSchemeEditor& m_page;
-};
-
-/// A page over the services that are offered at the moment, shown at its own size, and a person before it.
-class OpenPage
-{
-public:
-    explicit OpenPage(const LXPluginAPI::ManagerList* pManagers);
-    ~OpenPage();
-    OpenPage(const OpenPage&) = delete;
-    OpenPage& operator=(const OpenPage&) = delete;
-
-    ACSEventSchemeEditor& Page() const { return *m_page; }
-    const AlarmInfoMap& Schemes() const;
-    AlarmInfo Scheme(const QString& strSource, int32_t iType) const; ///< a fresh record when there is none
-    bool Holds(const QString& strSource, int32_t iType) const;
-    void Close(); ///< destroys the page
-
-private:
-    std::unique_ptr<ACSEventSchemeEditor> m_page;
-
-public:
-    PageHands hands;
 };

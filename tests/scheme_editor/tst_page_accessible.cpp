@@ -5,6 +5,7 @@
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHands.h"
 #include "tests/scheme_editor/PageHost.h"
 

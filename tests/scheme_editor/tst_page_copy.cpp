@@ -3,8 +3,9 @@
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QAbstractButton>
@@ -12,53 +13,8 @@
 #include <QPointer>
 #include <QTest>
 
+using namespace PageSchemes;
 using namespace PageSite;
-
-namespace {
-
-QString Key(const char* szKey)
-{
-    return QLatin1String(szKey);
-}
-
-QString Line(const char* szKey, int iType, const char* szFields)
-{
-    return QStringLiteral("%1#%2 %3").arg(QLatin1String(szKey)).arg(iType).arg(QLatin1String(szFields));
-}
-
-int FirstAlarm()
-{
-    return AlarmSchemeCommon::ACSAlarmEvent().constFirst();
-}
-
-AlarmInfo On()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    return info;
-}
-
-/// The popup that "Copy to" has opened.
-QPointer<ACSEventCopyToPopup> OpenPopup(const OpenPage& page)
-{
-    if (!PageHands::Click(page.hands.Widget("btnCopyTo")))
-        return nullptr;
-    return page.Page().findChild<ACSEventCopyToPopup*>();
-}
-
-/// Copies to the keys as a confirmed popup does, and closes it.
-bool CopyTo(const OpenPage& page, const QList<QString>& keys)
-{
-    const QPointer<ACSEventCopyToPopup> pPopup = OpenPopup(page);
-    if (pPopup.isNull())
-        return false;
-    Q_EMIT pPopup->SignalCopyTo(keys);
-    pPopup->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return pPopup.isNull();
-}
-
-} // namespace
 
 /// "Copy to" as the page does it.
 class TestPageCopy : public QObject
@@ -87,7 +43,7 @@ void TestPageCopy::aDoorOpensThePopupForDoors()
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    const QPointer<ACSEventCopyToPopup> pPopup = OpenPopup(page);
+    const QPointer<ACSEventCopyToPopup> pPopup = page.OpenPopup();
     QVERIFY(!pPopup.isNull());
     QCOMPARE(pPopup->GetMode(), ACSCopy::Door);
     QVERIFY(pPopup->isVisible());
@@ -101,7 +57,7 @@ void TestPageCopy::anInputOpensThePopupForInputs()
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDevice(Lobby));
-    const QPointer<ACSEventCopyToPopup> pPopup = OpenPopup(page);
+    const QPointer<ACSEventCopyToPopup> pPopup = page.OpenPopup();
     QVERIFY(!pPopup.isNull());
     QCOMPARE(pPopup->GetMode(), ACSCopy::AlarmInput);
 }
@@ -125,12 +81,12 @@ void TestPageCopy::aSourceThatCannotBeReadOpensNothing()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     host.devices.unreadableChannels.insert(Front);
-    QVERIFY(OpenPopup(page).isNull());
+    QVERIFY(page.OpenPopup().isNull());
     host.devices.unreadableChannels.clear();
     host.devices.goneObjects.insert(Lobby);
-    QVERIFY(OpenPopup(page).isNull());
+    QVERIFY(page.OpenPopup().isNull());
     host.devices.goneObjects.clear();
-    QVERIFY(!OpenPopup(page).isNull());
+    QVERIFY(!page.OpenPopup().isNull());
 }
 
 void TestPageCopy::openingThePopupStoresTheEditors()
@@ -139,7 +95,7 @@ void TestPageCopy::openingThePopupStoresTheEditors()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleSound());
-    QVERIFY(!OpenPopup(page).isNull());
+    QVERIFY(!page.OpenPopup().isNull());
     QCOMPARE(SchemeText::Edited(page.Schemes()), QStringList{Line("100$1$0$101", FirstAlarm(), "sound")});
 }
 
@@ -152,7 +108,7 @@ void TestPageCopy::aDoorCopyTakesEveryEventTypeAlong()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleSound());
-    QVERIFY(CopyTo(page, {Key("200$1$0$201"), Key("300$1$0$301")}));
+    QVERIFY(page.CopyTo({Key("200$1$0$201"), Key("300$1$0$301")}));
     QVERIFY(page.hands.Save());
     QCOMPARE(SchemeText::Edited(host.Kept().schemes),
              (QStringList{Line("100$1$0$-1", 22, "on"), Line("100$1$0$101", FirstAlarm(), "sound"),
@@ -168,7 +124,7 @@ void TestPageCopy::anInputCopyTakesTypeTwoAlong()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDevice(Lobby));
     QVERIFY(page.hands.ToggleMail());
-    QVERIFY(CopyTo(page, {Key("100$3$1$104"), Key("300$3$1$302")}));
+    QVERIFY(page.CopyTo({Key("100$3$1$104"), Key("300$3$1$302")}));
     QCOMPARE(SchemeText::Edited(page.Schemes()),
              (QStringList{Line("100$3$1$103", 2, "mail"), Line("100$3$1$103", 3, "on"),
                           Line("100$3$1$104", 2, "mail"), Line("300$3$1$302", 2, "mail")}));
@@ -181,7 +137,7 @@ void TestPageCopy::copyingAnUnsetSchemeClearsTheTargets()
                    {{Key("200$1$0$201"), 9999}, On()}});
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
+    QVERIFY(page.CopyTo({Key("200$1$0$201")}));
     QCOMPARE(SchemeText::KeysOfDevice(page.Schemes(), Vault), QStringList{Key("200$1$0$201#9999")});
 }
 
@@ -191,7 +147,7 @@ void TestPageCopy::theEditedDoorIsNotCopiedOntoItself()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
-    QVERIFY(CopyTo(page, {Key("100$1$0$101"), Key("100$1$0$102")}));
+    QVERIFY(page.CopyTo({Key("100$1$0$101"), Key("100$1$0$102")}));
     QCOMPARE(SchemeText::Edited(page.Schemes()),
              (QStringList{Line("100$1$0$101", FirstAlarm(), "on"), Line("100$1$0$102", FirstAlarm(), "on")}));
     QVERIFY(page.hands.IsOpenShown());
@@ -214,7 +170,7 @@ void TestPageCopy::theMarksFollowTheCopy()
     QVERIFY(page.hands.ClickDevice(Lobby));
     QVERIFY(page.hands.ToggleOpen());
     QVERIFY(!page.hands.HasInputMark(Key("100$3$1$104")));
-    QVERIFY(CopyTo(page, {Key("100$3$1$104")}));
+    QVERIFY(page.CopyTo({Key("100$3$1$104")}));
     QVERIFY(page.hands.HasInputMark(Key("100$3$1$104")));
 }
 
@@ -224,7 +180,7 @@ void TestPageCopy::aCopySendsNothingToTheHost()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
-    QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
+    QVERIFY(page.CopyTo({Key("200$1$0$201")}));
     QCOMPARE(host.Kept().iSaves, 0);
 }
 
@@ -233,7 +189,7 @@ void TestPageCopy::thePageMayGoWhileThePopupIsOpen()
     PageHost host;
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    const QPointer<ACSEventCopyToPopup> pPopup = OpenPopup(page);
+    const QPointer<ACSEventCopyToPopup> pPopup = page.OpenPopup();
     QVERIFY(!pPopup.isNull());
     page.Close();
     QVERIFY(pPopup.isNull());
@@ -246,7 +202,7 @@ void TestPageCopy::theDeviceMayGoWhileThePopupIsOpen()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
-    const QPointer<ACSEventCopyToPopup> pPopup = OpenPopup(page);
+    const QPointer<ACSEventCopyToPopup> pPopup = page.OpenPopup();
     QVERIFY(!pPopup.isNull());
     QVERIFY(host.devices.RemoveDevice(Lobby));
     QTRY_VERIFY(page.Schemes().isEmpty());

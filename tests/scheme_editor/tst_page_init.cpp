@@ -11,7 +11,7 @@
 #include "scheme_editor/ACSEventNotifyEditor.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
 #include "scheme_editor/QNoFocusItemDelegate.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
 #include "tests/scheme_editor/SchemeText.h"
 

@@ -3,33 +3,18 @@
 #include "platform/VantaComponent/GroupTreeCtrl.h"
 #include "platform/VantaModel/NodeRoles.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QTest>
 #include <QTreeWidget>
 
+using namespace PageSchemes;
 using namespace PageSite;
 
 namespace {
-
-QString Key(const char* szKey)
-{
-    return QLatin1String(szKey);
-}
-
-int FirstAlarm()
-{
-    return AlarmSchemeCommon::ACSAlarmEvent().constFirst();
-}
-
-AlarmInfo On()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    return info;
-}
 
 QStringList Keys(std::initializer_list<const char*> keys)
 {

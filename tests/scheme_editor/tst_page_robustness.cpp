@@ -7,8 +7,10 @@
 #include "platform/VantaModel/GroupTreeModel.h"
 #include "plugin/host_services/HostServices.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHands.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QTest>
@@ -18,19 +20,10 @@
 #include <functional>
 #include <limits>
 
+using namespace PageSchemes;
 using namespace PageSite;
 
 namespace {
-
-QString Key(const char* szKey)
-{
-    return QLatin1String(szKey);
-}
-
-int FirstAlarm()
-{
-    return AlarmSchemeCommon::ACSAlarmEvent().constFirst();
-}
 
 /// Answers the hub's name and is none.
 class WrongHub : public LXPluginAPI::IManager

@@ -4,8 +4,9 @@
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
 #include "platform/VantaComponent/GroupTreeCtrl.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QApplication>
@@ -13,33 +14,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace PageSchemes;
 using namespace PageSite;
 
 namespace {
 
 constexpr int PerDevice = 22;
-
-QString Key(const char* szKey)
-{
-    return QLatin1String(szKey);
-}
-
-int Alarm(int iPosition)
-{
-    return AlarmSchemeCommon::ACSAlarmEvent().at(iPosition);
-}
-
-QString Line(const char* szKey, int iType, const char* szFields)
-{
-    return QStringLiteral("%1#%2 %3").arg(QLatin1String(szKey)).arg(iType).arg(QLatin1String(szFields));
-}
-
-AlarmInfo On()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    return info;
-}
 
 } // namespace
 

@@ -1,88 +1,43 @@
-#include "platform/LXGUI/LXSwitchButton.h"
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
-#include "scheme_editor/ACSEventCopyToPopup.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QCryptographicHash>
 #include <QEvent>
-#include <QPointer>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
+using namespace PageSchemes;
 using namespace PageSite;
 
 namespace {
 
-QString Key(const char* szKey)
+/// The draft of edits that somebody made on a page of the host, which then went; empty when one of them could
+/// not be made.
+QByteArray DraftOf(const PageHost& host, const std::function<bool(const OpenPage&)>& edit)
 {
-    return QLatin1String(szKey);
+    const OpenPage page(&host.managers);
+    return edit(page) ? page.byName.Draft() : QByteArray();
 }
 
-int Alarm(int iPlace)
+bool SwitchFront(const OpenPage& page)
 {
-    return AlarmSchemeCommon::ACSAlarmEvent().at(iPlace);
+    return page.hands.ClickDoor(Front) && page.hands.ToggleOpen();
 }
 
-AlarmInfo On()
+/// The draft of one switch; the page is then as it was.
+QByteArray DraftAndBack(const OpenPage& page)
 {
-    AlarmInfo info;
-    info.bOpen = true;
-    return info;
-}
-
-AlarmLinkAlarmOut Output(const char* szKey)
-{
-    AlarmLinkAlarmOut link;
-    link.strLinkAlarmID = Key(szKey);
-    return link;
-}
-
-int Enabled(const OpenPage& page)
-{
-    return page.Page().property("enabledSchemes").toInt();
-}
-
-/// As a host calls it, by name.
-QByteArray Draft(const OpenPage& page)
-{
-    QByteArray draft;
-    QMetaObject::invokeMethod(&page.Page(), "Draft", Qt::DirectConnection, Q_RETURN_ARG(QByteArray, draft));
-    return draft;
-}
-
-int Restore(const OpenPage& page, const QByteArray& draft)
-{
-    int iRestored = -2;
-    QMetaObject::invokeMethod(&page.Page(), "RestoreDraft", Qt::DirectConnection,
-                              Q_RETURN_ARG(int, iRestored), Q_ARG(QByteArray, draft));
-    return iRestored;
-}
-
-void MarkUnsaved(const OpenPage& page)
-{
-    QMetaObject::invokeMethod(&page.Page(), "MarkUnsaved", Qt::DirectConnection);
-}
-
-void Undo(const OpenPage& page)
-{
-    QMetaObject::invokeMethod(&page.Page(), "Undo", Qt::DirectConnection);
-}
-
-bool CopyTo(const OpenPage& page, const QList<QString>& keys)
-{
-    if (!PageHands::Click(page.hands.Widget("btnCopyTo")))
-        return false;
-    const QPointer<ACSEventCopyToPopup> pPopup = page.Page().findChild<ACSEventCopyToPopup*>();
-    if (pPopup.isNull())
-        return false;
-    Q_EMIT pPopup->SignalCopyTo(keys);
-    pPopup->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return pPopup.isNull();
+    if (!SwitchFront(page))
+        return {};
+    const QByteArray draft = page.byName.Draft();
+    return page.hands.ToggleOpen() ? draft : QByteArray();
 }
 
 /// Notes what the page said at each change of its modified state.
@@ -169,7 +124,7 @@ void TestPageUnsaved::browsingDoesNotModify()
     QCoreApplication::sendPostedEvents();
     QVERIFY(modified.said.isEmpty());
     QVERIFY(!page.Page().isWindowModified());
-    QVERIFY(Draft(page).isEmpty());
+    QVERIFY(page.byName.Draft().isEmpty());
 }
 
 void TestPageUnsaved::anEditModifiesAndEditingBackDoesNot()
@@ -214,7 +169,7 @@ void TestPageUnsaved::anEditShowsWithoutLeavingTheEvent()
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleSound());
     QTRY_VERIFY(page.Page().isWindowModified());
-    QVERIFY(!Draft(page).isEmpty());
+    QVERIFY(!page.byName.Draft().isEmpty());
 }
 
 void TestPageUnsaved::savingEndsTheModifiedState()
@@ -225,7 +180,7 @@ void TestPageUnsaved::savingEndsTheModifiedState()
     QVERIFY(page.hands.ToggleSound());
     QVERIFY(page.hands.Save());
     QVERIFY(!page.Page().isWindowModified());
-    QVERIFY(Draft(page).isEmpty());
+    QVERIFY(page.byName.Draft().isEmpty());
     QVERIFY(page.hands.ToggleSound());
     QTRY_VERIFY2(page.Page().isWindowModified(), "what counts is the saved state, not the loaded one");
 }
@@ -247,13 +202,13 @@ void TestPageUnsaved::aFailedSaveCountsAgainstTheStateBeforeIt()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
-    const QByteArray before = Draft(page);
+    const QByteArray before = page.byName.Draft();
     QVERIFY(page.hands.Save());
-    MarkUnsaved(page);
+    QVERIFY(page.byName.MarkUnsaved());
     QVERIFY(page.Page().isWindowModified());
-    QCOMPARE(Draft(page), before);
-    MarkUnsaved(page);
-    QCOMPARE(Draft(page), before);
+    QCOMPARE(page.byName.Draft(), before);
+    QVERIFY(page.byName.MarkUnsaved());
+    QCOMPARE(page.byName.Draft(), before);
     QVERIFY(page.hands.Save());
     QVERIFY(!page.Page().isWindowModified());
 }
@@ -268,8 +223,8 @@ void TestPageUnsaved::editsAfterAFailedSaveCountToo()
     QVERIFY(page.hands.ToggleSound());
     QVERIFY(page.hands.ClickDoor(Safe));
     QVERIFY(page.hands.ToggleOpen());
-    MarkUnsaved(page);
-    const QByteArray draft = Draft(page);
+    QVERIFY(page.byName.MarkUnsaved());
+    const QByteArray draft = page.byName.Draft();
     const QStringList edited = SchemeText::Edited(page.Schemes());
     page.Close();
 
@@ -277,7 +232,7 @@ void TestPageUnsaved::editsAfterAFailedSaveCountToo()
     // The host holds what it was given; a host whose save failed does not.
     host.Kept().schemes.clear();
     OpenPage fresh(&host.managers);
-    QCOMPARE(Restore(fresh, draft), 2);
+    QCOMPARE(fresh.byName.RestoreDraft(draft), 2);
     QCOMPARE(SchemeText::Edited(fresh.Schemes()), edited);
 }
 
@@ -290,7 +245,7 @@ void TestPageUnsaved::editedBackAfterAFailedSaveIsNotModified()
     QVERIFY(page.hands.Save());
     QVERIFY(page.hands.ToggleOpen());
     QVERIFY(page.Page().isWindowModified());
-    MarkUnsaved(page);
+    QVERIFY(page.byName.MarkUnsaved());
     QVERIFY(!page.Page().isWindowModified());
 }
 
@@ -299,7 +254,7 @@ void TestPageUnsaved::clearingTargetsThatAreUnsetDoesNotModify()
     PageHost host({{{Key("200$1$0$201"), Alarm(0)}, AlarmInfo()}});
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
-    QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
+    QVERIFY(page.CopyTo({Key("200$1$0$201")}));
     QVERIFY(!page.Holds(Key("200$1$0$201"), Alarm(0)));
     QVERIFY2(!page.Page().isWindowModified(), "an absent scheme equals a default one");
 }
@@ -308,10 +263,10 @@ void TestPageUnsaved::removingADeviceWithSchemesModifies()
 {
     PageHost host({{{Key("200$1$0$201"), Alarm(0)}, On()}});
     OpenPage page(&host.managers);
-    QCOMPARE(Enabled(page), 1);
+    QCOMPARE(page.byName.EnabledSchemes(), 1);
     QVERIFY(host.devices.RemoveDevice(Vault));
     QTRY_VERIFY(page.Page().isWindowModified());
-    QCOMPARE(Enabled(page), 0);
+    QCOMPARE(page.byName.EnabledSchemes(), 0);
     page.Page().OnSave();
     QVERIFY(!page.Page().isWindowModified());
 }
@@ -347,22 +302,22 @@ void TestPageUnsaved::theEnabledSchemesAreCounted()
                    {{Key("999$1$0$1"), 4711}, On()}});
     OpenPage page(&host.managers);
     QSignalSpy changed(&page.Page(), SIGNAL(SignalEnabledSchemesChanged()));
-    QCOMPARE(Enabled(page), 2);
+    QCOMPARE(page.byName.EnabledSchemes(), 2);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ClickEvent(Alarm(1)));
     QVERIFY(page.hands.ToggleOpen());
-    QCOMPARE(Enabled(page), 3);
+    QCOMPARE(page.byName.EnabledSchemes(), 3);
     QCOMPARE(changed.size(), 1);
     QVERIFY(page.hands.ToggleSound());
-    QVERIFY(CopyTo(page, {Key("200$1$0$201"), Key("300$1$0$301")}));
-    QCOMPARE(Enabled(page), 7);
+    QVERIFY(page.CopyTo({Key("200$1$0$201"), Key("300$1$0$301")}));
+    QCOMPARE(page.byName.EnabledSchemes(), 7);
     QCOMPARE(changed.size(), 2);
-    Undo(page);
-    QCOMPARE(Enabled(page), 3);
-    Undo(page);
-    QCOMPARE(Enabled(page), 3);
-    Undo(page);
-    QCOMPARE(Enabled(page), 2);
+    QVERIFY(page.byName.Undo());
+    QCOMPARE(page.byName.EnabledSchemes(), 3);
+    QVERIFY(page.byName.Undo());
+    QCOMPARE(page.byName.EnabledSchemes(), 3);
+    QVERIFY(page.byName.Undo());
+    QCOMPARE(page.byName.EnabledSchemes(), 2);
     QCOMPARE(changed.size(), 4);
 }
 
@@ -370,11 +325,11 @@ void TestPageUnsaved::anUnmodifiedPageHasNoDraft()
 {
     PageHost host({{{Key("100$1$0$101"), Alarm(0)}, On()}});
     OpenPage page(&host.managers);
-    QVERIFY(Draft(page).isEmpty());
+    QVERIFY(page.byName.Draft().isEmpty());
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
     QVERIFY(page.hands.ToggleOpen());
-    QVERIFY(Draft(page).isEmpty());
+    QVERIFY(page.byName.Draft().isEmpty());
 }
 
 void TestPageUnsaved::aDraftBringsTheEditsBack()
@@ -390,68 +345,55 @@ void TestPageUnsaved::aDraftBringsTheEditsBack()
         QVERIFY(page.hands.ToggleOutput(Siren));
         QVERIFY(page.hands.ClickDevice(Lobby));
         QVERIFY(page.hands.ToggleMail());
-        draft = Draft(page);
+        draft = page.byName.Draft();
         edited = SchemeText::Edited(page.Schemes());
     }
     OpenPage page(&host.managers);
-    QCOMPARE(Restore(page, draft), 2);
+    QCOMPARE(page.byName.RestoreDraft(draft), 2);
     QCOMPARE(SchemeText::Edited(page.Schemes()), edited);
     QVERIFY(page.Page().isWindowModified());
-    QCOMPARE(Enabled(page), 2);
-    QCOMPARE(Draft(page), draft);
+    QCOMPARE(page.byName.EnabledSchemes(), 2);
+    QCOMPARE(page.byName.Draft(), draft);
 }
 
 void TestPageUnsaved::aRestoredDraftIsOneStep()
 {
     PageHost host;
-    QByteArray draft;
-    {
-        OpenPage page(&host.managers);
-        QVERIFY(page.hands.ClickDoor(Front));
-        QVERIFY(page.hands.ToggleOpen());
-        QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
-        draft = Draft(page);
-    }
+    const QByteArray draft = DraftOf(
+        host, [](const OpenPage& page) { return SwitchFront(page) && page.CopyTo({Key("200$1$0$201")}); });
+    QVERIFY(!draft.isEmpty());
     OpenPage page(&host.managers);
-    QCOMPARE(Restore(page, draft), 2);
-    QCOMPARE(page.Page().property("undoText").toString(), QStringLiteral("Restore Unsaved Edits"));
-    Undo(page);
+    QCOMPARE(page.byName.RestoreDraft(draft), 2);
+    QCOMPARE(page.byName.UndoText(), QStringLiteral("Restore Unsaved Edits"));
+    QVERIFY(page.byName.Undo());
     QVERIFY(SchemeText::Edited(page.Schemes()).isEmpty());
     QVERIFY(!page.Page().isWindowModified());
-    QVERIFY(!page.Page().property("canUndo").toBool());
+    QVERIFY(!page.byName.CanUndo());
 }
 
 void TestPageUnsaved::aDraftCarriesRemovals()
 {
     PageHost host({{{Key("200$1$0$201"), Alarm(0)}, On()}});
-    QByteArray draft;
-    {
-        OpenPage page(&host.managers);
-        QVERIFY(page.hands.ClickDoor(Front));
-        QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
-        draft = Draft(page);
-    }
+    const QByteArray draft = DraftOf(host, [](const OpenPage& page) {
+        return page.hands.ClickDoor(Front) && page.CopyTo({Key("200$1$0$201")});
+    });
+    QVERIFY(!draft.isEmpty());
     OpenPage page(&host.managers);
-    QCOMPARE(Enabled(page), 1);
-    QCOMPARE(Restore(page, draft), 1);
+    QCOMPARE(page.byName.EnabledSchemes(), 1);
+    QCOMPARE(page.byName.RestoreDraft(draft), 1);
     QVERIFY(!page.Holds(Key("200$1$0$201"), Alarm(0)));
-    QCOMPARE(Enabled(page), 0);
+    QCOMPARE(page.byName.EnabledSchemes(), 0);
 }
 
 void TestPageUnsaved::aDraftLeavesOutDevicesThatAreGone()
 {
     PageHost host;
-    QByteArray draft;
-    {
-        OpenPage page(&host.managers);
-        QVERIFY(page.hands.ClickDoor(Front));
-        QVERIFY(page.hands.ToggleOpen());
-        QVERIFY(CopyTo(page, {Key("200$1$0$201")}));
-        draft = Draft(page);
-    }
+    const QByteArray draft = DraftOf(
+        host, [](const OpenPage& page) { return SwitchFront(page) && page.CopyTo({Key("200$1$0$201")}); });
+    QVERIFY(!draft.isEmpty());
     QVERIFY(host.devices.RemoveDevice(Vault));
     OpenPage page(&host.managers);
-    QCOMPARE(Restore(page, draft), 1);
+    QCOMPARE(page.byName.RestoreDraft(draft), 1);
     QVERIFY(SchemeText::KeysOfDevice(page.Schemes(), Vault).isEmpty());
 }
 
@@ -461,29 +403,24 @@ void TestPageUnsaved::aDraftThatChangesNothingIsTakenAndIsNoStep()
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
-    const QByteArray draft = Draft(page);
+    const QByteArray draft = page.byName.Draft();
     QVERIFY(page.hands.Save());
     page.Close();
     OpenPage saved(&host.managers);
-    QCOMPARE(Restore(saved, draft), 0);
+    QCOMPARE(saved.byName.RestoreDraft(draft), 0);
     QVERIFY(!saved.Page().isWindowModified());
-    QVERIFY(!saved.Page().property("canUndo").toBool());
+    QVERIFY(!saved.byName.CanUndo());
 }
 
 void TestPageUnsaved::aDraftShowsAtOnce()
 {
     PageHost host;
-    QByteArray draft;
-    {
-        OpenPage page(&host.managers);
-        QVERIFY(page.hands.ClickDoor(Front));
-        QVERIFY(page.hands.ToggleOpen());
-        draft = Draft(page);
-    }
+    const QByteArray draft = DraftOf(host, SwitchFront);
+    QVERIFY(!draft.isEmpty());
     OpenPage page(&host.managers);
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(!page.hands.IsOpenShown());
-    QCOMPARE(Restore(page, draft), 1);
+    QCOMPARE(page.byName.RestoreDraft(draft), 1);
     QVERIFY(page.hands.IsOpenShown());
     QVERIFY(page.hands.HasMark("listAlarm", Alarm(0)));
     QVERIFY(page.hands.ClickDoor(Safe));
@@ -504,32 +441,27 @@ void TestPageUnsaved::draftsOfADraftAreTheSame()
     rich.listAlarmOut = {Output("105$3$0$0")};
     rich.defenceTime[3] = {{0, 900}, {3600, 86399}};
     PageHost host({{{Key("100$1$0$101"), Alarm(1)}, rich}});
-    QByteArray draft;
-    {
-        OpenPage page(&host.managers);
-        QVERIFY(page.hands.ClickDoor(Front));
-        QVERIFY(CopyTo(page, {Key("200$1$0$201"), Key("300$1$0$301")}));
-        draft = Draft(page);
-    }
+    const QByteArray draft = DraftOf(host, [](const OpenPage& page) {
+        return page.hands.ClickDoor(Front) && page.CopyTo({Key("200$1$0$201"), Key("300$1$0$301")});
+    });
+    QVERIFY(!draft.isEmpty());
     OpenPage page(&host.managers);
-    QCOMPARE(Restore(page, draft), 2);
+    QCOMPARE(page.byName.RestoreDraft(draft), 2);
     QCOMPARE(page.Scheme(Key("200$1$0$201"), Alarm(1)), rich);
-    QCOMPARE(Draft(page), draft);
+    QCOMPARE(page.byName.Draft(), draft);
 }
 
 void TestPageUnsaved::damagedDraftsAreRefused()
 {
     PageHost host;
     OpenPage page(&host.managers);
-    QVERIFY(page.hands.ClickDoor(Front));
-    QVERIFY(page.hands.ToggleOpen());
-    const QByteArray draft = Draft(page);
-    QVERIFY(page.hands.ToggleOpen());
+    const QByteArray draft = DraftAndBack(page);
+    QVERIFY(!draft.isEmpty());
     for (int i = 0; i < draft.size(); ++i) {
         for (const int iBit : {0, 7}) {
             QByteArray damaged = draft;
             damaged[i] = static_cast<char>(damaged.at(i) ^ (1 << iBit));
-            QVERIFY2(Restore(page, damaged) == -1, qPrintable(QString::number(i)));
+            QVERIFY2(page.byName.RestoreDraft(damaged) == -1, qPrintable(QString::number(i)));
         }
     }
     QVERIFY(!page.Page().isWindowModified());
@@ -540,15 +472,13 @@ void TestPageUnsaved::truncatedDraftsAreRefused()
 {
     PageHost host;
     OpenPage page(&host.managers);
-    QVERIFY(page.hands.ClickDoor(Front));
-    QVERIFY(page.hands.ToggleOpen());
-    const QByteArray draft = Draft(page);
-    QVERIFY(page.hands.ToggleOpen());
+    const QByteArray draft = DraftAndBack(page);
+    QVERIFY(!draft.isEmpty());
     for (int iSize = 0; iSize < draft.size(); ++iSize)
-        QCOMPARE(Restore(page, draft.left(iSize)), -1);
-    QCOMPARE(Restore(page, draft + '\0'), -1);
-    QCOMPARE(Restore(page, QByteArrayLiteral("no draft at all")), -1);
-    QCOMPARE(Restore(page, QByteArray(1 << 20, '\xff')), -1);
+        QCOMPARE(page.byName.RestoreDraft(draft.left(iSize)), -1);
+    QCOMPARE(page.byName.RestoreDraft(draft + '\0'), -1);
+    QCOMPARE(page.byName.RestoreDraft(QByteArrayLiteral("no draft at all")), -1);
+    QCOMPARE(page.byName.RestoreDraft(QByteArray(1 << 20, '\xff')), -1);
     QVERIFY(!page.Page().isWindowModified());
 }
 
@@ -562,7 +492,7 @@ void TestPageUnsaved::forgedDraftsAreHarmless()
     QVERIFY(page.hands.ClickDoor(Front));
     QVERIFY(page.hands.ToggleOpen());
     QVERIFY(page.hands.ToggleOutput(Siren));
-    const QByteArray draft = Draft(page);
+    const QByteArray draft = page.byName.Draft();
     const QByteArray payload = draft.mid(iHeader + iDigest);
     constexpr quint32 uSeed = 20260713;
     QRandomGenerator random(uSeed);
@@ -575,10 +505,10 @@ void TestPageUnsaved::forgedDraftsAreHarmless()
             forged.truncate(random.bounded(forged.size()));
         const QByteArray bytes =
             draft.left(iHeader) + QCryptographicHash::hash(forged, QCryptographicHash::Sha256) + forged;
-        const int iRestored = Restore(page, bytes);
+        const int iRestored = page.byName.RestoreDraft(bytes);
         QVERIFY2(iRestored >= -1 && iRestored <= 1, qPrintable(QStringLiteral("round %1").arg(i)));
         if (iRestored > 0)
-            Undo(page);
+            QVERIFY(page.byName.Undo());
     }
     for (auto it = page.Schemes().cbegin(); it != page.Schemes().cend(); ++it)
         QCOMPARE(EventSource::FieldCount(it.key().strEventSource), 4);

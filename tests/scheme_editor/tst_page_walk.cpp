@@ -1,7 +1,7 @@
 #include "platform/SystemLibrary/AlarmSchemeCommon.h"
 #include "platform/VantaModel/NodeRoles.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
-#include "tests/scheme_editor/PageHands.h"
+#include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
 #include "tests/scheme_editor/SchemeText.h"
 #include "tests/scheme_editor/WalkModel.h"

@@ -6,6 +6,7 @@
 #include "scheme_editor/SchemeSelection.h"
 #include "scheme_editor/TabLayout.h"
 #include "tests/scheme_editor/PageHost.h"
+#include "tests/scheme_editor/PageSchemes.h"
 #include "tests/scheme_editor/SchemeText.h"
 
 #include <QGridLayout>
@@ -20,6 +21,7 @@
 
 #include <limits>
 
+using namespace PageSchemes;
 using namespace PageSite;
 using EventSourceLookup::AlarmInputs;
 using EventSourceLookup::CategoryDevice;
@@ -27,11 +29,6 @@ using EventSourceLookup::CategoryDoor;
 using EventSourceLookup::CategoryNone;
 
 namespace {
-
-QString Key(const char* szKey)
-{
-    return QLatin1String(szKey);
-}
 
 QStringList KeysOf(const AlarmInputs& inputs)
 {

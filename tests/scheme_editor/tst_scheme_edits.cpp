@@ -6,6 +6,7 @@
 #include "scheme_editor/edits/SchemeChange.h"
 #include "scheme_editor/edits/SchemeContent.h"
 #include "scheme_editor/edits/SchemeDraft.h"
+#include "tests/scheme_editor/PageSchemes.h"
 
 #include <QTest>
 
@@ -13,6 +14,8 @@ Q_DECLARE_METATYPE(AlarmInfo)
 
 namespace {
 
+using PageSchemes::On;
+using PageSchemes::Output;
 using Side = SchemeChange::Side;
 
 bool AllKnown(const QString& /*strLinkAlarmID*/)
@@ -23,21 +26,6 @@ bool AllKnown(const QString& /*strLinkAlarmID*/)
 AlarmSourceKey Key(const char* szSource, int iType = 5)
 {
     return {QLatin1String(szSource), iType};
-}
-
-AlarmLinkAlarmOut Output(const char* szKey, int iTime = 20)
-{
-    AlarmLinkAlarmOut link;
-    link.strLinkAlarmID = QLatin1String(szKey);
-    link.Time = iTime;
-    return link;
-}
-
-AlarmInfo On()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    return info;
 }
 
 AlarmInfo WithDay(int iDay, const AlarmDefenceTime_t& regions)
