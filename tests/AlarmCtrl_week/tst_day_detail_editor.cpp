@@ -3,6 +3,8 @@
 #include "platform/LXGUI/LXMessageNotify.h"
 #include "platform/LXGUI/LXTimeEdit.h"
 #include "platform/SystemLibrary/QSystem.h"
+#include "tests/AlarmCtrl_week/DayTexts.h"
+#include "tests/AlarmCtrl_week/DialogRows.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -18,19 +20,9 @@
 
 #include <limits>
 
+using namespace DayTexts;
+
 namespace {
-
-constexpr int Hour = 3600;
-constexpr int Minute = 60;
-
-QString Text(const AlarmDefenceTime_t& regions)
-{
-    QString text;
-    for (const AlarmTimeRegion& region : regions) {
-        text += QStringLiteral("[%1 %2]").arg(region.Begin).arg(region.End);
-    }
-    return text;
-}
 
 template <typename T>
 T* Child(const QWidget& parent, const QString& name)
@@ -38,18 +30,6 @@ T* Child(const QWidget& parent, const QString& name)
     T* child = parent.findChild<T*>(name);
     Q_ASSERT(child != nullptr);
     return child;
-}
-
-void TypeRow(QAlarmDayDetailEditor& dialog, int row, const QTime& begin, const QTime& end)
-{
-    Child<QTimeEdit>(dialog, QStringLiteral("timeEditBegin%1").arg(row))->setTime(begin);
-    Child<QTimeEdit>(dialog, QStringLiteral("timeEditEnd%1").arg(row))->setTime(end);
-}
-
-QString RowText(const QAlarmDayDetailEditor& dialog, int row)
-{
-    return Child<QTimeEdit>(dialog, QStringLiteral("timeEditBegin%1").arg(row))->text() + QLatin1Char('-') +
-           Child<QTimeEdit>(dialog, QStringLiteral("timeEditEnd%1").arg(row))->text();
 }
 
 QString Read(const QAlarmDayDetailEditor& dialog)
@@ -229,22 +209,22 @@ void tst_DayDetailEditor::rowsShowTheRegionsToTheSecond()
 {
     QAlarmDayDetailEditor dialog;
     dialog.SetRegions({{1, 59}, {8 * Hour + 5, 17 * Hour + 30 * Minute}, {86398, 86399}});
-    QCOMPARE(RowText(dialog, 1), QStringLiteral("0:00:01-0:00:59"));
-    QCOMPARE(RowText(dialog, 2), QStringLiteral("8:00:05-17:30:00"));
-    QCOMPARE(RowText(dialog, 3), QStringLiteral("23:59:58-23:59:59"));
+    QCOMPARE(DialogRows::Text(dialog, 1), QStringLiteral("0:00:01-0:00:59"));
+    QCOMPARE(DialogRows::Text(dialog, 2), QStringLiteral("8:00:05-17:30:00"));
+    QCOMPARE(DialogRows::Text(dialog, 3), QStringLiteral("23:59:58-23:59:59"));
     QCOMPARE(Read(dialog), QStringLiteral("[1 59][28805 63000][86398 86399]"));
 }
 
 void tst_DayDetailEditor::rowsWithoutARegionKeepTheirTime()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 2, QTime(3, 0), QTime(4, 0));
+    DialogRows::Type(dialog, 2, QTime(3, 0), QTime(4, 0));
     dialog.SetRegions({{Hour, 2 * Hour}});
-    QCOMPARE(RowText(dialog, 1), QStringLiteral("1:00:00-2:00:00"));
-    QCOMPARE(RowText(dialog, 2), QStringLiteral("3:00:00-4:00:00"));
-    QCOMPARE(RowText(dialog, 3), QStringLiteral("0:00:00-0:00:00"));
+    QCOMPARE(DialogRows::Text(dialog, 1), QStringLiteral("1:00:00-2:00:00"));
+    QCOMPARE(DialogRows::Text(dialog, 2), QStringLiteral("3:00:00-4:00:00"));
+    QCOMPARE(DialogRows::Text(dialog, 3), QStringLiteral("0:00:00-0:00:00"));
     dialog.SetRegions({});
-    QCOMPARE(RowText(dialog, 1), QStringLiteral("1:00:00-2:00:00"));
+    QCOMPARE(DialogRows::Text(dialog, 1), QStringLiteral("1:00:00-2:00:00"));
 }
 
 void tst_DayDetailEditor::sevenRegionsAreNotShownAtAll()
@@ -255,13 +235,13 @@ void tst_DayDetailEditor::sevenRegionsAreNotShownAtAll()
     }
     QAlarmDayDetailEditor full;
     full.SetRegions(regions);
-    QCOMPARE(RowText(full, 6), QStringLiteral("10:00:00-11:00:00"));
+    QCOMPARE(DialogRows::Text(full, 6), QStringLiteral("10:00:00-11:00:00"));
 
     regions.append({20 * Hour, 21 * Hour});
     QAlarmDayDetailEditor tooFull;
     tooFull.SetRegions(regions);
     for (int row = 1; row <= 6; ++row) {
-        QCOMPARE(RowText(tooFull, row), QStringLiteral("0:00:00-0:00:00"));
+        QCOMPARE(DialogRows::Text(tooFull, row), QStringLiteral("0:00:00-0:00:00"));
     }
     QCOMPARE(Read(tooFull), QString());
 }
@@ -270,8 +250,8 @@ void tst_DayDetailEditor::secondsOutsideTheDayAreShownAsItsEdges()
 {
     QAlarmDayDetailEditor dialog;
     dialog.SetRegions({{-5, 86400}, {90000, std::numeric_limits<int32_t>::max()}});
-    QCOMPARE(RowText(dialog, 1), QStringLiteral("0:00:00-23:59:59"));
-    QCOMPARE(RowText(dialog, 2), QStringLiteral("23:59:59-23:59:59"));
+    QCOMPARE(DialogRows::Text(dialog, 1), QStringLiteral("0:00:00-23:59:59"));
+    QCOMPARE(DialogRows::Text(dialog, 2), QStringLiteral("23:59:59-23:59:59"));
 }
 
 void tst_DayDetailEditor::aTimeEditOfAnotherNameCountsAsAnEnd()
@@ -288,26 +268,26 @@ void tst_DayDetailEditor::aTimeEditOfAnotherNameCountsAsAnEnd()
 void tst_DayDetailEditor::rowsComeBackFusedAndSorted()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(20, 0), QTime(21, 0));
-    TypeRow(dialog, 2, QTime(8, 0), QTime(10, 0));
-    TypeRow(dialog, 6, QTime(9, 30), QTime(11, 0));
+    DialogRows::Type(dialog, 1, QTime(20, 0), QTime(21, 0));
+    DialogRows::Type(dialog, 2, QTime(8, 0), QTime(10, 0));
+    DialogRows::Type(dialog, 6, QTime(9, 30), QTime(11, 0));
     QCOMPARE(Read(dialog), QStringLiteral("[28800 39600][72000 75600]"));
 }
 
 void tst_DayDetailEditor::touchingRowsComeBackAsOne()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
-    TypeRow(dialog, 2, QTime(9, 0), QTime(10, 0));
+    DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
+    DialogRows::Type(dialog, 2, QTime(9, 0), QTime(10, 0));
     QCOMPARE(Read(dialog), QStringLiteral("[28800 36000]"));
 }
 
 void tst_DayDetailEditor::anUnusedRowYieldsNothing()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(10, 0), QTime(10, 0));
-    TypeRow(dialog, 2, QTime(12, 0), QTime(11, 0));
-    TypeRow(dialog, 4, QTime(1, 2, 3), QTime(1, 2, 4));
+    DialogRows::Type(dialog, 1, QTime(10, 0), QTime(10, 0));
+    DialogRows::Type(dialog, 2, QTime(12, 0), QTime(11, 0));
+    DialogRows::Type(dialog, 4, QTime(1, 2, 3), QTime(1, 2, 4));
     QCOMPARE(Read(dialog), QStringLiteral("[3723 3724]"));
 }
 
@@ -334,7 +314,7 @@ void tst_DayDetailEditor::aMissingEditSkipsItsRow()
 void tst_DayDetailEditor::goodRowsAreAccepted()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+    DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
     QSignalSpy notes(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance(),
                      &LXGUI::LXMessageNotify::SignalNotificationAdded);
     QCOMPARE(Run(dialog, [&] { dialog.GetButton(QDialogButtonBox::Ok)->click(); }), 1);
@@ -344,7 +324,7 @@ void tst_DayDetailEditor::goodRowsAreAccepted()
 void tst_DayDetailEditor::equalTimesAreAccepted()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(10, 0), QTime(10, 0));
+    DialogRows::Type(dialog, 1, QTime(10, 0), QTime(10, 0));
     QCOMPARE(Run(dialog, [&] { dialog.GetButton(QDialogButtonBox::Ok)->click(); }), 1);
     QCOMPARE(Read(dialog), QString());
 }
@@ -352,7 +332,7 @@ void tst_DayDetailEditor::equalTimesAreAccepted()
 void tst_DayDetailEditor::aReversedRowIsReportedAndRejects()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 3, QTime(12, 0), QTime(11, 0));
+    DialogRows::Type(dialog, 3, QTime(12, 0), QTime(11, 0));
     QSignalSpy notes(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance(),
                      &LXGUI::LXMessageNotify::SignalNotificationAdded);
     QCOMPARE(Run(dialog, [&] { dialog.GetButton(QDialogButtonBox::Ok)->click(); }), 0);
@@ -365,8 +345,8 @@ void tst_DayDetailEditor::aReversedRowIsReportedAndRejects()
 void tst_DayDetailEditor::onlyTheFirstReversedRowIsReported()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 2, QTime(0, 0, 1), QTime(0, 0, 0));
-    TypeRow(dialog, 5, QTime(12, 0), QTime(11, 0));
+    DialogRows::Type(dialog, 2, QTime(0, 0, 1), QTime(0, 0, 0));
+    DialogRows::Type(dialog, 5, QTime(12, 0), QTime(11, 0));
     QSignalSpy notes(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance(),
                      &LXGUI::LXMessageNotify::SignalNotificationAdded);
     QCOMPARE(Run(dialog, [&] { dialog.OnBtnOkClicked(); }), 0);
@@ -388,8 +368,8 @@ void tst_DayDetailEditor::aMissingEditRejectsWithoutAMessage()
 void tst_DayDetailEditor::aReversedRowBeforeAMissingEditIsStillReported()
 {
     QAlarmDayDetailEditor dialog;
-    TypeRow(dialog, 1, QTime(2, 0), QTime(1, 0));
-    TypeRow(dialog, 4, QTime(2, 0), QTime(1, 0));
+    DialogRows::Type(dialog, 1, QTime(2, 0), QTime(1, 0));
+    DialogRows::Type(dialog, 4, QTime(2, 0), QTime(1, 0));
     delete Child<QTimeEdit>(dialog, QStringLiteral("timeEditEnd3"));
     QSignalSpy notes(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance(),
                      &LXGUI::LXMessageNotify::SignalNotificationAdded);

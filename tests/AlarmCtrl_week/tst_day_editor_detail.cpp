@@ -1,5 +1,7 @@
 #include "AlarmCtrl/QAlarmDayDetailEditor.h"
 #include "AlarmCtrl/QAlarmDayEditor.h"
+#include "tests/AlarmCtrl_week/Bar.h"
+#include "tests/AlarmCtrl_week/DialogRows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,37 +10,14 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimeEdit>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
 
+using namespace DayTexts;
+
 namespace {
-
-constexpr int Hour = 3600;
-
-QString Text(const AlarmDefenceTime_t& regions)
-{
-    QString text;
-    for (const AlarmTimeRegion& region : regions) {
-        text += QStringLiteral("[%1 %2]").arg(region.Begin).arg(region.End);
-    }
-    return text;
-}
-
-QString Regions(const QAlarmDayEditor& bar)
-{
-    AlarmDefenceTime_t regions;
-    bar.GetDefenceTime(regions);
-    return Text(regions);
-}
-
-void TypeRow(QAlarmDayDetailEditor& dialog, int row, const QTime& begin, const QTime& end)
-{
-    dialog.findChild<QTimeEdit*>(QStringLiteral("timeEditBegin%1").arg(row))->setTime(begin);
-    dialog.findChild<QTimeEdit*>(QStringLiteral("timeEditEnd%1").arg(row))->setTime(end);
-}
 
 class PaintWatcher : public QObject
 {
@@ -152,7 +131,7 @@ void tst_DayEditorDetail::acceptingReplacesTheOwnDay()
 {
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0, 1), QTime(9, 0, 2));
+        DialogRows::Type(dialog, 1, QTime(8, 0, 1), QTime(9, 0, 2));
         Accept(dialog);
     });
     QCOMPARE(Regions(*m_bar), QStringLiteral("[28801 32402]"));
@@ -165,7 +144,7 @@ void tst_DayEditorDetail::acceptingWithOtherDaysTellsThem()
     connect(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers, this,
             [this] { m_ownWhenTold = Regions(*m_bar); });
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
         dialog.SetDayMask(127);
         Accept(dialog);
     });
@@ -180,7 +159,7 @@ void tst_DayEditorDetail::acceptingOnlyForOthersLeavesTheOwnDay()
     m_bar->SetDefenceTime({{Hour, 2 * Hour}});
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
         dialog.SetDayMask(0x41);
         Accept(dialog);
     });
@@ -195,7 +174,7 @@ void tst_DayEditorDetail::acceptingForNoDayDoesNothing()
     m_bar->SetDefenceTime({{Hour, 2 * Hour}});
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
         dialog.SetDayMask(0);
         Accept(dialog);
     });
@@ -208,7 +187,7 @@ void tst_DayEditorDetail::cancellingDoesNothing()
     m_bar->SetDefenceTime({{Hour, 2 * Hour}});
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
         dialog.SetDayMask(127);
         dialog.GetButton(QDialogButtonBox::Cancel)->click();
     });
@@ -221,7 +200,7 @@ void tst_DayEditorDetail::aReversedRowKeepsTheOldRegions()
     m_bar->SetDefenceTime({{Hour, 2 * Hour}});
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 4, QTime(12, 0), QTime(11, 0));
+        DialogRows::Type(dialog, 4, QTime(12, 0), QTime(11, 0));
         dialog.SetDayMask(127);
         Accept(dialog);
     });
@@ -249,7 +228,7 @@ void tst_DayEditorDetail::aBarWithoutADayTellsEveryTickedDay()
     QSignalSpy copied(m_bar.get(), &QAlarmDayEditor::SignalCopySettingToOthers);
     Open([](QAlarmDayDetailEditor& dialog) {
         dialog.SetDayMask(3);
-        TypeRow(dialog, 2, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 2, QTime(8, 0), QTime(9, 0));
         Accept(dialog);
     });
     QCOMPARE(copied.count(), 1);
@@ -264,7 +243,7 @@ void tst_DayEditorDetail::theBarShowsTheNewRegionsAtOnce()
     auto* display = m_bar->findChild<QWidget*>(QStringLiteral("wndDisplay"));
     PaintWatcher watcher;
     Open([&](QAlarmDayDetailEditor& dialog) {
-        TypeRow(dialog, 1, QTime(8, 0), QTime(9, 0));
+        DialogRows::Type(dialog, 1, QTime(8, 0), QTime(9, 0));
         Accept(dialog);
         // What was to be painted before the dialog ended does not count.
         QCoreApplication::sendPostedEvents(m_bar.get(), QEvent::UpdateRequest);

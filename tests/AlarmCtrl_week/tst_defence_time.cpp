@@ -1,5 +1,6 @@
 #include "AlarmCtrl/DefenceTime.h"
-#include "DayBits.h"
+#include "tests/AlarmCtrl_week/DayBits.h"
+#include "tests/AlarmCtrl_week/DayTexts.h"
 
 #include <QObject>
 #include <QRandomGenerator>
@@ -7,6 +8,7 @@
 
 #include <limits>
 
+using namespace DayTexts;
 using DefenceTime::Drag;
 using DefenceTime::Merge;
 using DefenceTime::MergeStatus;
@@ -14,19 +16,8 @@ using DefenceTime::Rounding;
 
 namespace {
 
-constexpr int Hour = 3600;
-constexpr int Minute = 60;
 constexpr int32_t Lowest = std::numeric_limits<int32_t>::min();
 constexpr int32_t Highest = std::numeric_limits<int32_t>::max();
-
-QString Text(const AlarmDefenceTime_t& regions)
-{
-    QString text;
-    for (const AlarmTimeRegion& region : regions) {
-        text += QStringLiteral("[%1 %2]").arg(region.Begin).arg(region.End);
-    }
-    return text;
-}
 
 Drag Painting(int from, int to)
 {
@@ -36,16 +27,6 @@ Drag Painting(int from, int to)
 Drag Erasing(int from, int to)
 {
     return {from, to, true};
-}
-
-/// Six regions of an hour, with an hour between them: 01-02, 03-04 … 11-12.
-AlarmDefenceTime_t SixRegions()
-{
-    AlarmDefenceTime_t regions;
-    for (int hour = 1; hour <= 11; hour += 2) {
-        regions.append({hour * Hour, (hour + 1) * Hour});
-    }
-    return regions;
 }
 
 } // namespace

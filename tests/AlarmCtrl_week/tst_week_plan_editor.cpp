@@ -1,7 +1,8 @@
 #include "AlarmCtrl/QAlarmDayEditor.h"
 #include "AlarmCtrl/QAlarmDayItem.h"
 #include "AlarmCtrl/QAlarmDefenceTimeEditor.h"
-#include "BarMouse.h"
+#include "tests/AlarmCtrl_week/BarMouse.h"
+#include "tests/AlarmCtrl_week/DayTexts.h"
 
 #include <QGridLayout>
 #include <QHash>
@@ -18,23 +19,16 @@
 #include <limits>
 #include <memory>
 
+using DayTexts::Hour;
+using DayTexts::Text;
+
 namespace {
 
-constexpr int Hour = 3600;
 constexpr QRgb Green = 0xFF3AAA24;
 
 using Week = std::array<AlarmDefenceTime_t, 7>;
 
-QString Text(const AlarmDefenceTime_t& regions)
-{
-    QString text;
-    for (const AlarmTimeRegion& region : regions) {
-        text += QStringLiteral("[%1 %2]").arg(region.Begin).arg(region.End);
-    }
-    return text;
-}
-
-QString Text(const Week& week)
+QString WeekText(const Week& week)
 {
     QString text;
     for (const AlarmDefenceTime_t& day : week) {
@@ -247,7 +241,7 @@ void tst_WeekPlanEditor::aWeekIsShownAndReadBackSundayFirst()
     QVERIFY(!ShowsGreen(6, 5 * Hour + 1800));
     Week back;
     QCOMPARE(m_editor->GetDefenceTime(back.data()), 0);
-    QCOMPARE(Text(back), Text(week));
+    QCOMPARE(WeekText(back), WeekText(week));
 }
 
 void tst_WeekPlanEditor::nullPointersAreRefused()
@@ -264,7 +258,7 @@ void tst_WeekPlanEditor::readingReplacesWhatWasThere()
     Week week;
     week.fill({{5, 6}, {7, 8}});
     QCOMPARE(m_editor->GetDefenceTime(week.data()), 0);
-    QCOMPARE(Text(week), Text(Week()));
+    QCOMPARE(WeekText(week), WeekText(Week()));
 }
 
 void tst_WeekPlanEditor::aMissingBarIsEmptyOnReadingAndSkippedOnWriting()
@@ -277,11 +271,11 @@ void tst_WeekPlanEditor::aMissingBarIsEmptyOnReadingAndSkippedOnWriting()
     QCOMPARE(m_editor->GetDefenceTime(back.data()), 0);
     Week expected = week;
     expected[3].clear();
-    QCOMPARE(Text(back), Text(expected));
+    QCOMPARE(WeekText(back), WeekText(expected));
     m_editor->OnCopySettingToOthers(127, {{7, 8}});
     expected.fill({{7, 8}});
     expected[3].clear();
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::brokenDaysAreNotChangedByReadingBack()
@@ -301,7 +295,7 @@ void tst_WeekPlanEditor::brokenDaysAreNotChangedByReadingBack()
     for (int day = 0; day < 7; ++day) {
         Mouse(day).Hover(50);
     }
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
 }
 
 void tst_WeekPlanEditor::anUnlockedDragChangesOnlyItsDay()
@@ -309,7 +303,7 @@ void tst_WeekPlanEditor::anUnlockedDragChangesOnlyItsDay()
     Drag(2, 8 * Hour, 9 * Hour);
     Week expected;
     expected[2] = {{8 * Hour, 9 * Hour}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::anUnlockedDragThatIsRefusedChangesNothing()
@@ -320,7 +314,7 @@ void tst_WeekPlanEditor::anUnlockedDragThatIsRefusedChangesNothing()
     QSignalSpy tip(Bar(2), &QAlarmDayEditor::SignalInternalShowTip);
     Drag(2, 20 * Hour, 21 * Hour);
     QCOMPARE(tip.count(), 1);
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
 }
 
 void tst_WeekPlanEditor::lockedDaysShowTheDragLive()
@@ -330,11 +324,11 @@ void tst_WeekPlanEditor::lockedDaysShowTheDragLive()
     QVERIFY(ShowsGreen(1, 8 * Hour + 1800));
     QVERIFY(ShowsGreen(3, 8 * Hour + 1800));
     QVERIFY(!ShowsGreen(2, 8 * Hour + 1800));
-    QCOMPARE(Text(Read()), Text(Week())); // nothing is committed yet
+    QCOMPARE(WeekText(Read()), WeekText(Week())); // nothing is committed yet
     EndDrag(1, 9 * Hour);
     Week expected;
     expected[1] = expected[3] = {{8 * Hour, 9 * Hour}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
     QVERIFY(ShowsGreen(3, 8 * Hour + 1800));
     QVERIFY(!ShowsGreen(2, 8 * Hour + 1800));
 }
@@ -372,7 +366,7 @@ void tst_WeekPlanEditor::lockedDaysAreCommittedTogether()
     Drag(5, 22 * Hour, 23 * Hour);
     Week expected;
     expected.fill({{22 * Hour, 23 * Hour}});
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::lockedDaysMergeTheSpanWithTheirOwnRegions()
@@ -387,7 +381,7 @@ void tst_WeekPlanEditor::lockedDaysMergeTheSpanWithTheirOwnRegions()
     expected[1] = {{7 * Hour, 9 * Hour}};
     expected[2] = {{8 * Hour, 9 * Hour}};
     expected[4] = {{8 * Hour, 10 * Hour}, {12 * Hour, 13 * Hour}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::aLockedEraseErasesOnEveryDay()
@@ -404,7 +398,7 @@ void tst_WeekPlanEditor::aLockedEraseErasesOnEveryDay()
     Week expected = week;
     expected[1] = {{8 * Hour, 9 * Hour}, {10 * Hour, 12 * Hour}};
     expected[3] = {{0, 9 * Hour}, {10 * Hour, 86399}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::aDragOnAnUnlockedDayLeavesLockedOnesAlone()
@@ -415,7 +409,7 @@ void tst_WeekPlanEditor::aDragOnAnUnlockedDayLeavesLockedOnesAlone()
     EndDrag(2, 9 * Hour);
     Week expected;
     expected[2] = {{8 * Hour, 9 * Hour}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::oneFullDayRefusesForAll()
@@ -428,7 +422,7 @@ void tst_WeekPlanEditor::oneFullDayRefusesForAll()
     QSignalSpy monday(Bar(1), &QAlarmDayEditor::SignalInternalShowTip);
     QSignalSpy wednesday(Bar(3), &QAlarmDayEditor::SignalInternalShowTip);
     Drag(1, 20 * Hour, 21 * Hour);
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
     QCOMPARE(monday.count(), 0);
     QCOMPARE(wednesday.count(), 1);
     QVERIFY(!ShowsGreen(1, 20 * Hour + 1800)); // the preview is over on both
@@ -455,7 +449,7 @@ void tst_WeekPlanEditor::theFirstFullDayInMapOrderShowsTheTip()
     for (int day = 0; day < 7; ++day) {
         QCOMPARE(tips.at(static_cast<size_t>(day))->count(), Bar(day) == first ? 1 : 0);
     }
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
 }
 
 void tst_WeekPlanEditor::touchingRegionsOnOneDayRefuseForAllSilently()
@@ -467,7 +461,7 @@ void tst_WeekPlanEditor::touchingRegionsOnOneDayRefuseForAllSilently()
     QSignalSpy monday(Bar(1), &QAlarmDayEditor::SignalInternalShowTip);
     QSignalSpy wednesday(Bar(3), &QAlarmDayEditor::SignalInternalShowTip);
     Drag(1, 20 * Hour, 21 * Hour);
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
     QCOMPARE(monday.count() + wednesday.count(), 0);
 }
 
@@ -545,7 +539,7 @@ void tst_WeekPlanEditor::anUnknownBarIsIgnored()
     m_editor->OnEditStart(nullptr);
     m_editor->OnEditing(nullptr);
     m_editor->OnEditReady(nullptr);
-    QCOMPARE(Text(Read()), Text(Week()));
+    QCOMPARE(WeekText(Read()), WeekText(Week()));
 }
 
 void tst_WeekPlanEditor::allLocksAndUnlocksEveryDay()
@@ -601,7 +595,7 @@ void tst_WeekPlanEditor::copyingReplacesExactlyTheNamedDays()
     m_editor->SetDefenceTime(week.data());
     Q_EMIT Bar(2)->SignalCopySettingToOthers(0x41, {{8 * Hour, 9 * Hour}});
     week[0] = week[6] = {{8 * Hour, 9 * Hour}};
-    QCOMPARE(Text(Read()), Text(week));
+    QCOMPARE(WeekText(Read()), WeekText(week));
 }
 
 void tst_WeekPlanEditor::copyingIgnoresLocksAndBitsWithoutADay()
@@ -610,9 +604,9 @@ void tst_WeekPlanEditor::copyingIgnoresLocksAndBitsWithoutADay()
     m_editor->OnCopySettingToOthers(0x7FFFFF80 | 4, {{8 * Hour, 9 * Hour}});
     Week expected;
     expected[2] = {{8 * Hour, 9 * Hour}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
     m_editor->OnCopySettingToOthers(0, {{1, 2}});
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::copyingANegativeMaskEnds()
@@ -620,9 +614,9 @@ void tst_WeekPlanEditor::copyingANegativeMaskEnds()
     m_editor->OnCopySettingToOthers(-1, {{1, 2}}); // -1 / 2 is 0
     Week expected;
     expected[0] = {{1, 2}};
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
     m_editor->OnCopySettingToOthers(std::numeric_limits<int>::min(), {{1, 2}});
-    QCOMPARE(Text(Read()), Text(expected));
+    QCOMPARE(WeekText(Read()), WeekText(expected));
 }
 
 void tst_WeekPlanEditor::theScaleStandsOverTheFirstBar_data()
