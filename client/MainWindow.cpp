@@ -281,6 +281,10 @@ void MainWindow::SetSite(const QString& strFile, int iDevices)
 
 void MainWindow::ShowSaveOutcome(const SchemeStoreOutcome& outcome)
 {
+    if (outcome.IsSuccess() && outcome.eOperation == SchemeStoreOutcome::Operation::Repair) {
+        // Errors stay until they are clicked away, and "restore a copy of it" would be wrong advice by now.
+        LXGUI::LXSingleton<LXMessageNotify>::Instance()->Clear();
+    }
     if (!outcome.IsSuccess()) {
         CLIENT_LOG(lxl::LogError, "schemes: %s (%s)", qUtf8Printable(outcome.Text()),
                    qUtf8Printable(outcome.strTechnical));

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int NoteTime = 6000; // milliseconds
 constexpr int IconSize = 16;
+constexpr int LongestWord = 12;  // characters that fit into any note
 constexpr int LongestText = 400; // characters on screen; the whole text stays in the note's tool tip
 
 struct LevelLook
@@ -48,6 +49,32 @@ QString Shortened(const QString& strText)
     return strText.size() <= LongestText ? strText : strText.left(LongestText) + QChar(0x2026);
 }
 
+/// A label breaks lines at blanks only and cuts off a word that is longer than the line, a file's name say:
+/// long words may break behind their signs, and where they have none.
+QString Breakable(const QString& strText)
+{
+    const QChar breakHere(0x200B); // takes no room
+    const QString strSigns = QStringLiteral("-_./\\");
+    QStringList words = strText.split(QLatin1Char(' '));
+    for (QString& strWord : words) {
+        if (strWord.size() <= LongestWord) {
+            continue;
+        }
+        QString strBreakable;
+        int iUnbroken = 0;
+        for (const QChar sign : qAsConst(strWord)) {
+            strBreakable += sign;
+            ++iUnbroken;
+            if (strSigns.contains(sign) || (iUnbroken >= LongestWord && !sign.isHighSurrogate())) {
+                strBreakable += breakHere;
+                iUnbroken = 0;
+            }
+        }
+        strWord = strBreakable;
+    }
+    return words.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 LXMessageNotePanel::LXMessageNotePanel(const QString& strText, LXMessageNotify::Level level, QWidget* pAnchor)
@@ -64,8 +91,9 @@ LXMessageNotePanel::LXMessageNotePanel(const QString& strText, LXMessageNotify::
     const LevelLook look = LookOf(level);
     pIcon->setFixedSize(IconSize, IconSize);
     pIcon->setPixmap(SkinImage(pAnchor, QLatin1String(look.szImage), look.substitute, IconSize));
-    auto* pText = new QLabel(Shortened(strText), this);
+    auto* pText = new QLabel(Breakable(Shortened(strText)), this);
     pText->setTextFormat(Qt::PlainText);
+    pText->setAccessibleName(strText);
     pText->setWordWrap(true);
     pText->setMinimumHeight(IconSize);
     auto* pLayout = new QHBoxLayout(this);

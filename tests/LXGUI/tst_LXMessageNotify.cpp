@@ -217,6 +217,43 @@ private Q_SLOTS:
         QVERIFY(std::any_of(labels.cbegin(), labels.cend(), isText));
     }
 
+    void aLongWordIsNotCutOff_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::newRow("the name of a file") << QStringLiteral("AlarmScheme.damaged-20261121-230215.db");
+        QTest::newRow("without any sign") << QString(60, QLatin1Char('W'));
+        QTest::newRow("beyond the first plane") << QStringLiteral("\U0001F514").repeated(40);
+    }
+
+    void aLongWordIsNotCutOff()
+    {
+        QFETCH(QString, word);
+        const QString strText = QStringLiteral("The damaged file was kept as %1.").arg(word);
+        Notify()->AddTextNotification(strText);
+        QCOMPARE(Notify()->GetLastText(), strText);
+        const QList<QLabel*> labels = Panels().constFirst()->findChildren<QLabel*>();
+        const auto found = std::find_if(labels.cbegin(), labels.cend(),
+                                        [](const QLabel* pLabel) { return !pLabel->text().isEmpty(); });
+        QVERIFY(found != labels.cend());
+        const QLabel& label = **found;
+        const QRect needed = label.fontMetrics().boundingRect(QRect(0, 0, label.width(), 10000),
+                                                              Qt::TextWordWrap, label.text());
+        QVERIFY2(needed.width() <= label.width(), qPrintable(QString::number(needed.width())));
+        QVERIFY(needed.height() <= label.height());
+        QCOMPARE(label.text().remove(QChar(0x200B)), strText); // not a sign is lost or changed
+        QVERIFY(label.text().toUcs4().size() >= strText.toUcs4().size());
+        QVERIFY(!label.text().contains(QChar::ReplacementCharacter));
+    }
+
+    void aShortTextIsShownAsItIs()
+    {
+        const QString strText = QStringLiteral(" two  blanks, a-sign.and /a/path ");
+        Notify()->AddTextNotification(strText);
+        const QList<QLabel*> labels = Panels().constFirst()->findChildren<QLabel*>();
+        QVERIFY(std::any_of(labels.cbegin(), labels.cend(),
+                            [&strText](const QLabel* pLabel) { return pLabel->text() == strText; }));
+    }
+
     void aHugeTextStaysInTheWindowAndIsRememberedWhole()
     {
         const QString strHuge = QStringLiteral("word ").repeated(20000);

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void theDialogTellsWhatItOffers();
     void withoutABackupNoneIsOffered();
     void theOperatorIsAskedAndTheBackupComesBack();
+    void whatWasToldOfTheDamageGoesWithIt();
     void closingTheDialogLeavesTheFileAlone();
     void aMissingBackupIsAWarningBesideTheSuccess();
 
@@ -200,6 +201,23 @@ void SchemeDamageDialogTest::theOperatorIsAskedAndTheBackupComesBack()
     QCOMPARE(m_store->Load(map), 0);
     QVERIFY(map == SchemeFiles::Map(12));
     QVERIFY(!m_saving->IsUnsaved());
+}
+
+void SchemeDamageDialogTest::whatWasToldOfTheDamageGoesWithIt()
+{
+    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(m_window.get());
+    MakeDamagedWithBackup();
+    const WaitingAnswer answer("btnRestore");
+    StartClient();
+    AlarmInfoMap map;
+    QCOMPARE(m_store->Load(map), -1); // as of a page that is opened at once
+    const QString strDamaged = LastNote();
+    QCOMPARE(strDamaged, m_store->LastOutcome().Text());
+    QTRY_VERIFY(m_store->LastOutcome().eOperation == SchemeStoreOutcome::Operation::Repair);
+    QVERIFY(LastNote() != strDamaged);
+    QCOMPARE(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetVisibleTexts(),
+             QStringList{m_store->LastOutcome().Text()});
+    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(nullptr);
 }
 
 void SchemeDamageDialogTest::closingTheDialogLeavesTheFileAlone()
