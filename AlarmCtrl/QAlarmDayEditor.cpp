@@ -17,6 +17,7 @@
 namespace {
 
 constexpr int CursorSize = 18;
+constexpr qreal DisabledOpacity = 0.4; // what cannot be edited steps back behind what can
 
 QString CursorFile(bool bErase)
 {
@@ -176,6 +177,9 @@ void QAlarmDayEditor::PaintDisplay()
     // is copied faster.
     image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(m_pDisplay);
+    if (!m_pDisplay->isEnabled()) {
+        painter.setOpacity(DisabledOpacity);
+    }
     // In device pixels, so that the picture is copied and not scaled again at a fractional ratio.
     painter.scale(1 / dRatio, 1 / dRatio);
     painter.drawImage(QRectF(QPointF(0, 0), image.size()), image, QRectF(QPointF(0, 0), image.size()));

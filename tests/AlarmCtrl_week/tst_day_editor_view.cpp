@@ -65,6 +65,7 @@ private Q_SLOTS:
     void theDragIsPreviewedWhileItLasts();
     void anEraseIsPreviewedAsAHoleToTheGround();
     void regionsAndGridAreDrawnOverTheStylesBackground();
+    void aDisabledBarIsPaleAndAnEnabledOneIsNot();
     void theApplicationsStyleReachesTheDisplay();
     void theGroundIsWhateverTheParentShows();
     void everyEventOfTheDisplayIsHandled();
@@ -116,6 +117,20 @@ void tst_DayEditorView::regionsAndGridAreDrawnOverTheStylesBackground()
     QCOMPARE(image.pixel(50, 12), qRgb(0x1A, 0x1D, 0x20));
     QCOMPARE(image.pixel(205, 12), Bar::Green);
     QCOMPARE(image.pixel(60, 12), Bar::Grid);
+}
+
+void tst_DayEditorView::aDisabledBarIsPaleAndAnEnabledOneIsNot()
+{
+    Bar bar;
+    bar.SetDefenceTime({{8 * Hour, 12 * Hour}});
+    bar.setEnabled(false);
+    const QColor pale(bar.PixelAt(9 * Hour));
+    QVERIFY(pale != QColor(Bar::Green));
+    QVERIFY(pale.lightness() > QColor(Bar::Green).lightness()); // the ground is white
+    QVERIFY(pale != QColor(Qt::white));                         // and still shows when it is armed
+    QCOMPARE(bar.PixelAt(13 * Hour), qRgb(255, 255, 255));
+    bar.setEnabled(true);
+    QCOMPARE(bar.PixelAt(9 * Hour), Bar::Green);
 }
 
 void tst_DayEditorView::theApplicationsStyleReachesTheDisplay()
