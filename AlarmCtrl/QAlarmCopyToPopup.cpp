@@ -54,7 +54,7 @@ QList<QString> QAlarmCopyToPopup::TickedKeys() const
 void QAlarmCopyToPopup::ShowTargets()
 {
     const int iTargets = TickedKeys().size();
-    SetTitle(iTargets == 0 ? tr("Copy to") : tr("Copy to %n Target(s)", nullptr, iTargets));
+    SetTitle(iTargets == 0 ? tr("Copy to") : tr("Copy to %Ln Target(s)", nullptr, iTargets));
 }
 
 void QAlarmCopyToPopup::OnOk()

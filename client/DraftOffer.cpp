@@ -93,7 +93,7 @@ void DraftOffer::Restore(std::unique_ptr<DraftFile> file, const Draft& draft)
     m_keeper.Adopt(pPage, std::move(file));
     LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->AddTextNotification(
         iSchemes == 0 ? tr("The changes are stored already; there was nothing to restore.")
-                      : tr("%n scheme(s) restored; they are not saved yet.", nullptr, iSchemes),
+                      : tr("%Ln scheme(s) restored; they are not saved yet.", nullptr, iSchemes),
         LXGUI::LXMessageNotify::Information);
 }
 
@@ -114,7 +114,7 @@ QString DraftOffer::Question(const Draft& draft) const
         draft.iSchemes < 0
             ? tr("%1: the program ended before changes were saved. They were kept on %2.")
                   .arg(strTitle, strTime)
-            : tr("%1: the program ended before changes of %n scheme(s) were saved. They were kept on %2.",
+            : tr("%1: the program ended before changes of %Ln scheme(s) were saved. They were kept on %2.",
                  nullptr, draft.iSchemes)
                   .arg(strTitle, strTime);
     return strFound + QLatin1Char('\n') +

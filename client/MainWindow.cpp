@@ -274,7 +274,7 @@ void MainWindow::AddProblem(const QString& strText)
 
 void MainWindow::SetSite(const QString& strFile, int iDevices)
 {
-    m_pSite->setText(tr("%1: %n device(s)", nullptr, iDevices).arg(QFileInfo(strFile).fileName()));
+    m_pSite->setText(tr("%1: %Ln device(s)", nullptr, iDevices).arg(QFileInfo(strFile).fileName()));
     m_pHome->ShowEmptySite(iDevices == 0 ? QDir::toNativeSeparators(strFile) : QString());
     m_pSite->setToolTip(QDir::toNativeSeparators(strFile).toHtmlEscaped());
 }
@@ -400,6 +400,6 @@ void MainWindow::RefreshStatus()
 {
     m_pEdited->setText(m_pStatus->Text());
     const int iEnabled = m_pStatus->EnabledSchemes();
-    m_pEnabled->setText(iEnabled < 0 ? QString() : tr("%n scheme(s) on", nullptr, iEnabled));
+    m_pEnabled->setText(iEnabled < 0 ? QString() : tr("%Ln scheme(s) on", nullptr, iEnabled));
     m_pEnabled->setVisible(iEnabled >= 0);
 }

@@ -9,9 +9,9 @@ SchemeConflictDialog::SchemeConflictDialog(const SchemeConflict& conflict, QWidg
     ui->setupUi(GetCentralWidget());
     SetTitle(tr("Schemes were changed elsewhere"));
     QString strText =
-        tr("Another program has changed %n scheme(s) since they were loaded.", nullptr, conflict.iSchemes);
+        tr("Another program has changed %Ln scheme(s) since they were loaded.", nullptr, conflict.iSchemes);
     if (conflict.iBoth > 0) {
-        strText += QLatin1Char('\n') + tr("You have changed %n of them too; there, saving writes yours.",
+        strText += QLatin1Char('\n') + tr("You have changed %Ln of them too; there, saving writes yours.",
                                           nullptr, conflict.iBoth);
     }
     ui->lblConflict->setText(strText);

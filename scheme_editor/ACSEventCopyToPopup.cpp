@@ -67,8 +67,8 @@ void ACSEventCopyToPopup::ShowTargets()
     if (iTargets == 0)
         SetTitle(tr("Copy to"));
     else
-        SetTitle(m_iMode == ACSCopy::Door ? tr("Copy to %n Door(s)", nullptr, iTargets)
-                                          : tr("Copy to %n Alarm Input(s)", nullptr, iTargets));
+        SetTitle(m_iMode == ACSCopy::Door ? tr("Copy to %Ln Door(s)", nullptr, iTargets)
+                                          : tr("Copy to %Ln Alarm Input(s)", nullptr, iTargets));
 }
 
 void ACSEventCopyToPopup::OnOk()

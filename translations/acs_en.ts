@@ -23,17 +23,17 @@
         <translation>Copy to</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Door(s)</source>
+        <source>Copy to %Ln Door(s)</source>
         <translation>
-            <numerusform>Copy to %n Door</numerusform>
-            <numerusform>Copy to %n Doors</numerusform>
+            <numerusform>Copy to %Ln Door</numerusform>
+            <numerusform>Copy to %Ln Doors</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Alarm Input(s)</source>
+        <source>Copy to %Ln Alarm Input(s)</source>
         <translation>
-            <numerusform>Copy to %n Alarm Input</numerusform>
-            <numerusform>Copy to %n Alarm Inputs</numerusform>
+            <numerusform>Copy to %Ln Alarm Input</numerusform>
+            <numerusform>Copy to %Ln Alarm Inputs</numerusform>
         </translation>
     </message>
 </context>
@@ -455,10 +455,10 @@
         <translation>No scheme is switched on here; nothing is ever armed.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
+        <source>%Ln scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
         <translation>
-            <numerusform>%n scheme switched on. The brighter a half hour, the more of them are armed.</numerusform>
-            <numerusform>%n schemes switched on. The brighter a half hour, the more of them are armed.</numerusform>
+            <numerusform>%Ln scheme switched on. The brighter a half hour, the more of them are armed.</numerusform>
+            <numerusform>%Ln schemes switched on. The brighter a half hour, the more of them are armed.</numerusform>
         </translation>
     </message>
     <message>
@@ -586,10 +586,10 @@
         <translation>The changes are stored already; there was nothing to restore.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) restored; they are not saved yet.</source>
+        <source>%Ln scheme(s) restored; they are not saved yet.</source>
         <translation>
-            <numerusform>%n scheme restored; it is not saved yet.</numerusform>
-            <numerusform>%n schemes restored; they are not saved yet.</numerusform>
+            <numerusform>%Ln scheme restored; it is not saved yet.</numerusform>
+            <numerusform>%Ln schemes restored; they are not saved yet.</numerusform>
         </translation>
     </message>
     <message>
@@ -601,10 +601,10 @@
         <translation>%1: the program ended before changes were saved. They were kept on %2.</translation>
     </message>
     <message numerus="yes">
-        <source>%1: the program ended before changes of %n scheme(s) were saved. They were kept on %2.</source>
+        <source>%1: the program ended before changes of %Ln scheme(s) were saved. They were kept on %2.</source>
         <translation>
-            <numerusform>%1: the program ended before changes of %n scheme were saved. They were kept on %2.</numerusform>
-            <numerusform>%1: the program ended before changes of %n schemes were saved. They were kept on %2.</numerusform>
+            <numerusform>%1: the program ended before changes of %Ln scheme were saved. They were kept on %2.</numerusform>
+            <numerusform>%1: the program ended before changes of %Ln schemes were saved. They were kept on %2.</numerusform>
         </translation>
     </message>
     <message>
@@ -1076,10 +1076,10 @@
         <translation>Pick a step to see what it has changed.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) changed:</source>
+        <source>%Ln scheme(s) changed:</source>
         <translation>
-            <numerusform>%n scheme changed:</numerusform>
-            <numerusform>%n schemes changed:</numerusform>
+            <numerusform>%Ln scheme changed:</numerusform>
+            <numerusform>%Ln schemes changed:</numerusform>
         </translation>
     </message>
     <message>
@@ -1104,17 +1104,17 @@
         <translation>Take a step back</translation>
     </message>
     <message numerus="yes">
-        <source>Make the %n scheme(s) of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</source>
+        <source>Make the %Ln scheme(s) of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</source>
         <translation>
-            <numerusform>Make the %n scheme of the step of %1 what it was before it? A scheme that has changed since stays as it is. The pages are loaded anew.</numerusform>
-            <numerusform>Make the %n schemes of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</numerusform>
+            <numerusform>Make the %Ln scheme of the step of %1 what it was before it? A scheme that has changed since stays as it is. The pages are loaded anew.</numerusform>
+            <numerusform>Make the %Ln schemes of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) were not taken back, because they have changed since:</source>
+        <source>%Ln scheme(s) were not taken back, because they have changed since:</source>
         <translation>
-            <numerusform>%n scheme was not taken back, because it has changed since:</numerusform>
-            <numerusform>%n schemes were not taken back, because they have changed since:</numerusform>
+            <numerusform>%Ln scheme was not taken back, because it has changed since:</numerusform>
+            <numerusform>%Ln schemes were not taken back, because they have changed since:</numerusform>
         </translation>
     </message>
     <message>
@@ -1664,10 +1664,10 @@ If you can read it, mail about alarms will arrive here.
         <translation>There is no module &quot;%1&quot;.</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n device(s)</source>
+        <source>%1: %Ln device(s)</source>
         <translation>
-            <numerusform>%1: %n device</numerusform>
-            <numerusform>%1: %n devices</numerusform>
+            <numerusform>%1: %Ln device</numerusform>
+            <numerusform>%1: %Ln devices</numerusform>
         </translation>
     </message>
     <message>
@@ -1745,10 +1745,10 @@ Data directory: %2</translation>
         <translation>%1[*] - ACS Client</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) on</source>
+        <source>%Ln scheme(s) on</source>
         <translation>
-            <numerusform>%n scheme on</numerusform>
-            <numerusform>%n schemes on</numerusform>
+            <numerusform>%Ln scheme on</numerusform>
+            <numerusform>%Ln schemes on</numerusform>
         </translation>
     </message>
 </context>
@@ -1919,10 +1919,10 @@ Data directory: %2</translation>
         <translation>Copy to</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Target(s)</source>
+        <source>Copy to %Ln Target(s)</source>
         <translation>
-            <numerusform>Copy to %n Target</numerusform>
-            <numerusform>Copy to %n Targets</numerusform>
+            <numerusform>Copy to %Ln Target</numerusform>
+            <numerusform>Copy to %Ln Targets</numerusform>
         </translation>
     </message>
 </context>
@@ -2394,10 +2394,10 @@ Data directory: %2</translation>
         <translation>Switch Mail Off</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Source(s)</source>
+        <source>Copy to %Ln Source(s)</source>
         <translation>
-            <numerusform>Copy to %n Source</numerusform>
-            <numerusform>Copy to %n Sources</numerusform>
+            <numerusform>Copy to %Ln Source</numerusform>
+            <numerusform>Copy to %Ln Sources</numerusform>
         </translation>
     </message>
     <message>
@@ -2405,17 +2405,17 @@ Data directory: %2</translation>
         <translation>Restore Unsaved Edits</translation>
     </message>
     <message numerus="yes">
-        <source>Link %n Output(s)</source>
+        <source>Link %Ln Output(s)</source>
         <translation>
-            <numerusform>Link %n Output</numerusform>
-            <numerusform>Link %n Outputs</numerusform>
+            <numerusform>Link %Ln Output</numerusform>
+            <numerusform>Link %Ln Outputs</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Unlink %n Output(s)</source>
+        <source>Unlink %Ln Output(s)</source>
         <translation>
-            <numerusform>Unlink %n Output</numerusform>
-            <numerusform>Unlink %n Outputs</numerusform>
+            <numerusform>Unlink %Ln Output</numerusform>
+            <numerusform>Unlink %Ln Outputs</numerusform>
         </translation>
     </message>
     <message>
@@ -2525,17 +2525,17 @@ Data directory: %2</translation>
         <translation>Schemes were changed elsewhere</translation>
     </message>
     <message numerus="yes">
-        <source>Another program has changed %n scheme(s) since they were loaded.</source>
+        <source>Another program has changed %Ln scheme(s) since they were loaded.</source>
         <translation>
-            <numerusform>Another program has changed %n scheme since it was loaded.</numerusform>
-            <numerusform>Another program has changed %n schemes since they were loaded.</numerusform>
+            <numerusform>Another program has changed %Ln scheme since it was loaded.</numerusform>
+            <numerusform>Another program has changed %Ln schemes since they were loaded.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>You have changed %n of them too; there, saving writes yours.</source>
+        <source>You have changed %Ln of them too; there, saving writes yours.</source>
         <translation>
-            <numerusform>You have changed %n of them too; there, saving writes yours.</numerusform>
-            <numerusform>You have changed %n of them too; there, saving writes yours.</numerusform>
+            <numerusform>You have changed %Ln of them too; there, saving writes yours.</numerusform>
+            <numerusform>You have changed %Ln of them too; there, saving writes yours.</numerusform>
         </translation>
     </message>
 </context>
@@ -2695,17 +2695,17 @@ Data directory: %2</translation>
         <translation>%1 %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) loaded.</source>
+        <source>%Ln scheme(s) loaded.</source>
         <translation>
-            <numerusform>%n scheme loaded.</numerusform>
-            <numerusform>%n schemes loaded.</numerusform>
+            <numerusform>%Ln scheme loaded.</numerusform>
+            <numerusform>%Ln schemes loaded.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) saved.</source>
+        <source>%Ln scheme(s) saved.</source>
         <translation>
-            <numerusform>%n scheme saved.</numerusform>
-            <numerusform>%n schemes saved.</numerusform>
+            <numerusform>%Ln scheme saved.</numerusform>
+            <numerusform>%Ln schemes saved.</numerusform>
         </translation>
     </message>
     <message>
@@ -2805,24 +2805,24 @@ Data directory: %2</translation>
         <translation>No scheme has changed; nothing had to be saved.</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
+        <source>%Ln scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
         <translation>
-            <numerusform>%n scheme stays as another program has saved it. To see it here, start this program again.</numerusform>
-            <numerusform>%n schemes stay as another program has saved them. To see them here, start this program again.</numerusform>
+            <numerusform>%Ln scheme stays as another program has saved it. To see it here, start this program again.</numerusform>
+            <numerusform>%Ln schemes stay as another program has saved them. To see them here, start this program again.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) taken back.</source>
+        <source>%Ln scheme(s) taken back.</source>
         <translation>
-            <numerusform>%n scheme taken back.</numerusform>
-            <numerusform>%n schemes taken back.</numerusform>
+            <numerusform>%Ln scheme taken back.</numerusform>
+            <numerusform>%Ln schemes taken back.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) stay as they are, because they have changed since.</source>
+        <source>%Ln scheme(s) stay as they are, because they have changed since.</source>
         <translation>
-            <numerusform>%n scheme stays as it is, because it has changed since.</numerusform>
-            <numerusform>%n schemes stay as they are, because they have changed since.</numerusform>
+            <numerusform>%Ln scheme stays as it is, because it has changed since.</numerusform>
+            <numerusform>%Ln schemes stay as they are, because they have changed since.</numerusform>
         </translation>
     </message>
     <message>
@@ -2838,10 +2838,10 @@ Data directory: %2</translation>
         <translation>The program did not end properly last time. The scheme database was checked: it is sound, but it holds %1 row(s) that belong to no scheme; they are left out.</translation>
     </message>
     <message numerus="yes">
-        <source>The backup of %1 with %n scheme(s) was restored.</source>
+        <source>The backup of %1 with %Ln scheme(s) was restored.</source>
         <translation>
-            <numerusform>The backup of %1 with %n scheme was restored.</numerusform>
-            <numerusform>The backup of %1 with %n schemes was restored.</numerusform>
+            <numerusform>The backup of %1 with %Ln scheme was restored.</numerusform>
+            <numerusform>The backup of %1 with %Ln schemes was restored.</numerusform>
         </translation>
     </message>
     <message>

@@ -23,15 +23,15 @@
         <translation>复制到</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Door(s)</source>
+        <source>Copy to %Ln Door(s)</source>
         <translation>
-            <numerusform>复制到 %n 个门</numerusform>
+            <numerusform>复制到 %Ln 个门</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Alarm Input(s)</source>
+        <source>Copy to %Ln Alarm Input(s)</source>
         <translation>
-            <numerusform>复制到 %n 个报警输入</numerusform>
+            <numerusform>复制到 %Ln 个报警输入</numerusform>
         </translation>
     </message>
 </context>
@@ -453,9 +453,9 @@
         <translation>此处未启用任何预案，始终不会布防。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
+        <source>%Ln scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
         <translation>
-            <numerusform>已启用 %n 个预案。半小时格越亮，该时间布防的预案越多。</numerusform>
+            <numerusform>已启用 %Ln 个预案。半小时格越亮，该时间布防的预案越多。</numerusform>
         </translation>
     </message>
     <message>
@@ -583,9 +583,9 @@
         <translation>这些更改已经保存，无需恢复。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) restored; they are not saved yet.</source>
+        <source>%Ln scheme(s) restored; they are not saved yet.</source>
         <translation>
-            <numerusform>已恢复 %n 个预案，尚未保存。</numerusform>
+            <numerusform>已恢复 %Ln 个预案，尚未保存。</numerusform>
         </translation>
     </message>
     <message>
@@ -597,9 +597,9 @@
         <translation>%1：程序在保存更改之前已退出。更改保留于 %2。</translation>
     </message>
     <message numerus="yes">
-        <source>%1: the program ended before changes of %n scheme(s) were saved. They were kept on %2.</source>
+        <source>%1: the program ended before changes of %Ln scheme(s) were saved. They were kept on %2.</source>
         <translation>
-            <numerusform>%1：程序在保存 %n 个预案的更改之前已退出。更改保留于 %2。</numerusform>
+            <numerusform>%1：程序在保存 %Ln 个预案的更改之前已退出。更改保留于 %2。</numerusform>
         </translation>
     </message>
     <message>
@@ -1071,9 +1071,9 @@
         <translation>请选择步骤，以查看其更改内容。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) changed:</source>
+        <source>%Ln scheme(s) changed:</source>
         <translation>
-            <numerusform>已更改 %n 个预案：</numerusform>
+            <numerusform>已更改 %Ln 个预案：</numerusform>
         </translation>
     </message>
     <message>
@@ -1098,15 +1098,15 @@
         <translation>撤回步骤</translation>
     </message>
     <message numerus="yes">
-        <source>Make the %n scheme(s) of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</source>
+        <source>Make the %Ln scheme(s) of the step of %1 what they were before it? Schemes that have changed since stay as they are. The pages are loaded anew.</source>
         <translation>
-            <numerusform>要将 %1 的步骤所涉及的 %n 个预案恢复到该步骤之前的状态吗？此后又有更改的预案保持不变。页面将重新加载。</numerusform>
+            <numerusform>要将 %1 的步骤所涉及的 %Ln 个预案恢复到该步骤之前的状态吗？此后又有更改的预案保持不变。页面将重新加载。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) were not taken back, because they have changed since:</source>
+        <source>%Ln scheme(s) were not taken back, because they have changed since:</source>
         <translation>
-            <numerusform>有 %n 个预案之后又有更改，未撤回：</numerusform>
+            <numerusform>有 %Ln 个预案之后又有更改，未撤回：</numerusform>
         </translation>
     </message>
     <message>
@@ -1655,9 +1655,9 @@ If you can read it, mail about alarms will arrive here.
         <translation>没有模块“%1”。</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n device(s)</source>
+        <source>%1: %Ln device(s)</source>
         <translation>
-            <numerusform>%1：%n 个设备</numerusform>
+            <numerusform>%1：%Ln 个设备</numerusform>
         </translation>
     </message>
     <message>
@@ -1735,9 +1735,9 @@ Data directory: %2</source>
         <translation>%1[*] - ACS 客户端</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) on</source>
+        <source>%Ln scheme(s) on</source>
         <translation>
-            <numerusform>已启用 %n 个预案</numerusform>
+            <numerusform>已启用 %Ln 个预案</numerusform>
         </translation>
     </message>
 </context>
@@ -1908,9 +1908,9 @@ Data directory: %2</source>
         <translation>复制到</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Target(s)</source>
+        <source>Copy to %Ln Target(s)</source>
         <translation>
-            <numerusform>复制到 %n 个目标</numerusform>
+            <numerusform>复制到 %Ln 个目标</numerusform>
         </translation>
     </message>
 </context>
@@ -2382,9 +2382,9 @@ Data directory: %2</source>
         <translation>关闭邮件</translation>
     </message>
     <message numerus="yes">
-        <source>Copy to %n Source(s)</source>
+        <source>Copy to %Ln Source(s)</source>
         <translation>
-            <numerusform>复制到 %n 个事件源</numerusform>
+            <numerusform>复制到 %Ln 个事件源</numerusform>
         </translation>
     </message>
     <message>
@@ -2392,15 +2392,15 @@ Data directory: %2</source>
         <translation>恢复未保存的编辑</translation>
     </message>
     <message numerus="yes">
-        <source>Link %n Output(s)</source>
+        <source>Link %Ln Output(s)</source>
         <translation>
-            <numerusform>联动 %n 个报警输出</numerusform>
+            <numerusform>联动 %Ln 个报警输出</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Unlink %n Output(s)</source>
+        <source>Unlink %Ln Output(s)</source>
         <translation>
-            <numerusform>取消联动 %n 个报警输出</numerusform>
+            <numerusform>取消联动 %Ln 个报警输出</numerusform>
         </translation>
     </message>
     <message>
@@ -2505,15 +2505,15 @@ Data directory: %2</source>
         <translation>预案已在别处更改</translation>
     </message>
     <message numerus="yes">
-        <source>Another program has changed %n scheme(s) since they were loaded.</source>
+        <source>Another program has changed %Ln scheme(s) since they were loaded.</source>
         <translation>
-            <numerusform>自加载以来，另一个程序已更改 %n 个预案。</numerusform>
+            <numerusform>自加载以来，另一个程序已更改 %Ln 个预案。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>You have changed %n of them too; there, saving writes yours.</source>
+        <source>You have changed %Ln of them too; there, saving writes yours.</source>
         <translation>
-            <numerusform>其中 %n 个您也做了更改；保存时将写入您的更改。</numerusform>
+            <numerusform>其中 %Ln 个您也做了更改；保存时将写入您的更改。</numerusform>
         </translation>
     </message>
 </context>
@@ -2672,15 +2672,15 @@ Data directory: %2</source>
         <translation>%1%2</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) loaded.</source>
+        <source>%Ln scheme(s) loaded.</source>
         <translation>
-            <numerusform>已加载 %n 个预案。</numerusform>
+            <numerusform>已加载 %Ln 个预案。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) saved.</source>
+        <source>%Ln scheme(s) saved.</source>
         <translation>
-            <numerusform>已保存 %n 个预案。</numerusform>
+            <numerusform>已保存 %Ln 个预案。</numerusform>
         </translation>
     </message>
     <message>
@@ -2780,21 +2780,21 @@ Data directory: %2</source>
         <translation>预案没有更改，无需保存。</translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
+        <source>%Ln scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
         <translation>
-            <numerusform>%n 个预案保持另一个程序所保存的内容。要在此处查看，请重新启动本程序。</numerusform>
+            <numerusform>%Ln 个预案保持另一个程序所保存的内容。要在此处查看，请重新启动本程序。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) taken back.</source>
+        <source>%Ln scheme(s) taken back.</source>
         <translation>
-            <numerusform>已撤回 %n 个预案。</numerusform>
+            <numerusform>已撤回 %Ln 个预案。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n scheme(s) stay as they are, because they have changed since.</source>
+        <source>%Ln scheme(s) stay as they are, because they have changed since.</source>
         <translation>
-            <numerusform>%n 个预案此后已更改，保持原样。</numerusform>
+            <numerusform>%Ln 个预案此后已更改，保持原样。</numerusform>
         </translation>
     </message>
     <message>
@@ -2810,9 +2810,9 @@ Data directory: %2</source>
         <translation>程序上次未正常退出。已检查预案数据库：数据库完好，但有 %1 行不属于任何预案，已忽略。</translation>
     </message>
     <message numerus="yes">
-        <source>The backup of %1 with %n scheme(s) was restored.</source>
+        <source>The backup of %1 with %Ln scheme(s) was restored.</source>
         <translation>
-            <numerusform>已恢复 %1 的备份，含 %n 个预案。</numerusform>
+            <numerusform>已恢复 %1 的备份，含 %Ln 个预案。</numerusform>
         </translation>
     </message>
     <message>

@@ -115,7 +115,7 @@ void HistoryPage::ShowChanges(qint64 iEntry, const SchemeHistoryChanges& changes
 {
     ui->lblChanges->setText(
         changes.size() <= SchemesListed
-            ? tr("%n scheme(s) changed:", nullptr, changes.size())
+            ? tr("%Ln scheme(s) changed:", nullptr, changes.size())
             : tr("%1 schemes changed, the first %2 of them:")
                   .arg(QLocale().toString(changes.size()), QLocale().toString(SchemesListed)));
     QList<QTreeWidgetItem*> items;
@@ -154,7 +154,7 @@ QTreeWidgetItem* HistoryPage::LeftAlone(qint64 iEntry) const
         return nullptr;
     }
     auto* const pItem = new QTreeWidgetItem(
-        {tr("%n scheme(s) were not taken back, because they have changed since:", nullptr, m_left.size())});
+        {tr("%Ln scheme(s) were not taken back, because they have changed since:", nullptr, m_left.size())});
     const QList<AlarmSourceKey> listed = m_left.mid(0, SchemesListed);
     for (const AlarmSourceKey& key : listed) {
         new QTreeWidgetItem(pItem, {SchemeWords::Name(key, m_site)});
@@ -171,13 +171,14 @@ void HistoryPage::OnTakeBack()
     const SchemeHistoryEntry entry = m_model.At(rows.constFirst().row());
     const QString strWhen = entry.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     const QPointer<HistoryPage> self(this);
-    const int iAnswer = LXMessageBox::ShowWarning(this, tr("Take a step back"),
-                                                  tr("Make the %n scheme(s) of the step of %1 what they were "
-                                                     "before it? Schemes that have changed since "
-                                                     "stay as they are. The pages are loaded anew.",
-                                                     nullptr, entry.iSchemes)
-                                                      .arg(strWhen),
-                                                  LXMessageBox::ButtonOk | LXMessageBox::ButtonNo);
+    const int iAnswer =
+        LXMessageBox::ShowWarning(this, tr("Take a step back"),
+                                  tr("Make the %Ln scheme(s) of the step of %1 what they were "
+                                     "before it? Schemes that have changed since "
+                                     "stay as they are. The pages are loaded anew.",
+                                     nullptr, entry.iSchemes)
+                                      .arg(strWhen),
+                                  LXMessageBox::ButtonOk | LXMessageBox::ButtonNo);
     if (!self.isNull() && iAnswer == LXMessageBox::ButtonOk) {
         m_store.Revert(entry.iId, strWhen);
     }

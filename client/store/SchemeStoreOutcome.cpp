@@ -54,8 +54,8 @@ SchemeStoreOutcome SchemeStoreOutcome::Success(Operation eOperation, int iScheme
     SchemeStoreOutcome outcome;
     outcome.eOperation = eOperation;
     outcome.iSchemes = iSchemes;
-    outcome.strWhat = eOperation == Operation::Load ? tr("%n scheme(s) loaded.", nullptr, iSchemes)
-                                                    : tr("%n scheme(s) saved.", nullptr, iSchemes);
+    outcome.strWhat = eOperation == Operation::Load ? tr("%Ln scheme(s) loaded.", nullptr, iSchemes)
+                                                    : tr("%Ln scheme(s) saved.", nullptr, iSchemes);
     return outcome;
 }
 
@@ -65,7 +65,7 @@ SchemeStoreOutcome SchemeStoreOutcome::Saved(int iSchemes, int iKept)
     if (iSchemes == 0)
         outcome.strWhat = tr("No scheme has changed; nothing had to be saved.");
     if (iKept > 0)
-        outcome.strNext = tr("%n scheme(s) stay as another program has saved them. To see them here, start "
+        outcome.strNext = tr("%Ln scheme(s) stay as another program has saved them. To see them here, start "
                              "this program again.",
                              nullptr, iKept);
     return outcome;
@@ -77,10 +77,10 @@ SchemeStoreOutcome SchemeStoreOutcome::Reverted(int iSchemes, int iChangedSince)
     outcome.eOperation = Operation::Save;
     outcome.bRevert = true;
     outcome.iSchemes = iSchemes;
-    outcome.strWhat = tr("%n scheme(s) taken back.", nullptr, iSchemes);
+    outcome.strWhat = tr("%Ln scheme(s) taken back.", nullptr, iSchemes);
     if (iChangedSince > 0)
         outcome.strNext =
-            tr("%n scheme(s) stay as they are, because they have changed since.", nullptr, iChangedSince);
+            tr("%Ln scheme(s) stay as they are, because they have changed since.", nullptr, iChangedSince);
     return outcome;
 }
 
@@ -120,7 +120,7 @@ SchemeStoreOutcome SchemeStoreOutcome::Repaired(const QString& strKeptAs, const 
     outcome.eOperation = Operation::Repair;
     outcome.iSchemes = iSchemes;
     outcome.strWhat = backup.isValid()
-                          ? tr("The backup of %1 with %n scheme(s) was restored.", nullptr, iSchemes)
+                          ? tr("The backup of %1 with %Ln scheme(s) was restored.", nullptr, iSchemes)
                                 .arg(QLocale().toString(backup, QLocale::ShortFormat))
                           : tr("The program starts without schemes.");
     outcome.strNext = tr("The damaged file was kept as %1.").arg(QFileInfo(strKeptAs).fileName());

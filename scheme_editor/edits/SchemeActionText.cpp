@@ -46,7 +46,7 @@ QString SchemeActionText::OfEdit(const AlarmInfo& before, const AlarmInfo& after
 
 QString SchemeActionText::OfCopy(int iSources)
 {
-    return tr("Copy to %n Source(s)", nullptr, iSources);
+    return tr("Copy to %Ln Source(s)", nullptr, iSources);
 }
 
 QString SchemeActionText::OfDraft()
@@ -62,9 +62,9 @@ QString SchemeActionText::OfOutputs(const QList<AlarmLinkAlarmOut>& before,
     const int iAdded = (QSet<QString>(has) - had).size();
     const int iRemoved = (QSet<QString>(had) - has).size();
     if (iAdded > 0 && iRemoved == 0)
-        return tr("Link %n Output(s)", nullptr, iAdded);
+        return tr("Link %Ln Output(s)", nullptr, iAdded);
     if (iRemoved > 0 && iAdded == 0)
-        return tr("Unlink %n Output(s)", nullptr, iRemoved);
+        return tr("Unlink %Ln Output(s)", nullptr, iRemoved);
     return iAdded > 0 ? tr("Change Outputs") : tr("Change Output Settings");
 }
 

@@ -3,6 +3,7 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "client/store/DurableJournal.h"
 
+#include <QLocale>
 #include <QSet>
 #include <QtTest>
 
@@ -62,7 +63,7 @@ void SchemeStoreOutcomeTest::aSuccessCountsTheSchemesAndAsksForNothing()
         const SchemeStoreOutcome outcome = SchemeStoreOutcome::Success(operation, 1234);
         QVERIFY(outcome.IsSuccess() && outcome.eOperation == operation);
         QCOMPARE(outcome.iSchemes, 1234);
-        QVERIFY(outcome.strWhat.contains(QLatin1String("1234")));
+        QVERIFY(outcome.strWhat.contains(QLocale().toString(1234)));
         QCOMPARE(outcome.Text(), outcome.strWhat);
     }
 }
@@ -138,7 +139,7 @@ void SchemeStoreOutcomeTest::aRepairTellsWhatWasDoneAndWhereTheDamagedFileIs()
         QVERIFY(outcome.IsSuccess() && outcome.eOperation == Operation::Repair);
         QVERIFY(outcome.Text().contains(QLatin1String("AlarmScheme.damaged-20261121-184500.db")));
     }
-    QVERIFY(restored.Text().contains(QLatin1String("4711")));
+    QVERIFY(restored.Text().contains(QLocale().toString(4711)));
     QVERIFY(restored.strWhat != empty.strWhat);
     QVERIFY(SchemeStoreOutcome::NothingToRepair().IsSuccess());
     const SchemeStoreOutcome failed =
