@@ -454,13 +454,6 @@
         <source>No scheme is switched on here; nothing is ever armed.</source>
         <translation>No scheme is switched on here; nothing is ever armed.</translation>
     </message>
-    <message numerus="yes">
-        <source>%Ln scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
-        <translation>
-            <numerusform>%Ln scheme switched on. The brighter a half hour, the more of them are armed.</numerusform>
-            <numerusform>%Ln schemes switched on. The brighter a half hour, the more of them are armed.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Nothing to complain of.</source>
         <translation>Nothing to complain of.</translation>
@@ -472,6 +465,13 @@
     <message>
         <source>Looking through the schemes…</source>
         <translation>Looking through the schemes…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln scheme(s) switched on. The stronger the green of a half hour, the more of them are armed.</source>
+        <translation>
+            <numerusform>%Ln scheme switched on. The stronger the green of a half hour, the more of them are armed.</numerusform>
+            <numerusform>%Ln schemes switched on. The stronger the green of a half hour, the more of them are armed.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -452,12 +452,6 @@
         <source>No scheme is switched on here; nothing is ever armed.</source>
         <translation>此处未启用任何预案，始终不会布防。</translation>
     </message>
-    <message numerus="yes">
-        <source>%Ln scheme(s) switched on. The brighter a half hour, the more of them are armed.</source>
-        <translation>
-            <numerusform>已启用 %Ln 个预案。半小时格越亮，该时间布防的预案越多。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Nothing to complain of.</source>
         <translation>未发现问题。</translation>
@@ -469,6 +463,12 @@
     <message>
         <source>Looking through the schemes…</source>
         <translation>正在检查预案…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln scheme(s) switched on. The stronger the green of a half hour, the more of them are armed.</source>
+        <translation>
+            <numerusform>已启用 %Ln 个预案。半小时格的绿色越鲜明，该时间布防的预案越多。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

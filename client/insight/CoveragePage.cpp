@@ -35,7 +35,9 @@ CoveragePage::CoveragePage(StoredSchemeView& schemes, QWidget* parent)
         connect(pFilter, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &CoveragePage::ShowCoverage);
     }
-    connect(ui->wndWeek, &WeekHeatMap::SignalPointedAt, ui->lblPointedAt, &QLabel::setText);
+    connect(ui->wndWeek, &WeekHeatMap::SignalPointedAt, this, [this](const QString& strText) {
+        ui->lblPointedAt->setText(strText.isEmpty() ? m_strSummary : strText);
+    });
     connect(ui->tblFindings, &QAbstractItemView::activated, this, &CoveragePage::OnFindingActivated);
     connect(&m_schemes, &StoredSchemeView::SignalRead, this, &CoveragePage::LookThrough);
     LookThrough();
@@ -98,12 +100,14 @@ void CoveragePage::ShowCoverage()
                          filter = Filter()](const BackgroundJob::Stop&) -> BackgroundJob::Result {
         const WeekCoverage coverage = WeekCoverage::Of(schemes, filter);
         return [this, coverage] {
+            m_strSummary =
+                coverage.iEnabled == 0
+                    ? tr("No scheme is switched on here; nothing is ever armed.")
+                    : tr("%Ln scheme(s) switched on. The stronger the green of a half hour, the more "
+                         "of them are armed.",
+                         nullptr, coverage.iEnabled);
+            ui->lblPointedAt->setText(m_strSummary);
             ui->wndWeek->SetCoverage(coverage);
-            ui->lblPointedAt->setText(coverage.iEnabled == 0
-                                          ? tr("No scheme is switched on here; nothing is ever armed.")
-                                          : tr("%n scheme(s) switched on. The brighter a half hour, the more "
-                                               "of them are armed.",
-                                               nullptr, coverage.iEnabled));
         };
     });
 }

@@ -46,4 +46,5 @@ private:
     QSortFilterProxyModel m_sorted;
     BackgroundJob m_coverageJob;
     BackgroundJob m_findingsJob;
+    QString m_strSummary; ///< said while no half hour is pointed at
 };

@@ -194,7 +194,12 @@ void WeekHeatMap::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
         return;
     }
-    m_current = next;
+    GoTo(next);
+}
+
+void WeekHeatMap::GoTo(const QPoint& slot)
+{
+    m_current = slot;
     update();
     PointAt(m_current);
     QAccessibleValueChangeEvent changed(this, CurrentText());
@@ -213,6 +218,14 @@ void WeekHeatMap::focusOutEvent(QFocusEvent* event)
     QWidget::focusOutEvent(event);
     update();
     PointAt(NoSlot);
+}
+
+void WeekHeatMap::mousePressEvent(QMouseEvent* event)
+{
+    const QPoint slot = SlotAt(event->pos());
+    if (event->button() == Qt::LeftButton && slot != NoSlot) {
+        GoTo(slot);
+    }
 }
 
 void WeekHeatMap::mouseMoveEvent(QMouseEvent* event)

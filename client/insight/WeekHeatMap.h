@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
-/// The week as a field of half hours, seven rows of 48, each the brighter the more schemes are armed. The
-/// arrow keys walk over the field; what the field under the cursor or the focus stands for is said in words.
+/// The week as a field of half hours, seven rows of 48, each the greener the more schemes are armed. The
+/// arrow keys walk over the field, from where the mouse has clicked last; what the field under the cursor or the focus stands for is said in words.
 class WeekHeatMap : public QWidget
 {
     Q_OBJECT
@@ -37,6 +37,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
@@ -45,6 +46,7 @@ private:
     static int DayOfRow(int iRow); ///< 0 (Sunday) to 6
     QPoint SlotAt(const QPoint& position) const;
     void PointAt(const QPoint& slot);
+    void GoTo(const QPoint& slot);
 
     WeekCoverage m_coverage;
     QPoint m_current; ///< column (half hour) and row of the keyboard's

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void theMapsHalfHoursCoverTheFieldWithoutAGap();
     void theMapSaysWhatAHalfHourStandsFor();
     void theArrowKeysWalkOverTheMapAndStopAtItsEdges();
+    void theArrowKeysGoOnFromWhereWasClicked();
     void withoutASourceThePageSaysWhatToDo();
     void withoutDevicesThePageSaysWhatToDo();
     void anArmedMomentTellsTheReactions();
@@ -81,6 +82,7 @@ private Q_SLOTS:
     void aDatabaseThatCannotBeReadIsSaid();
     void findingsAreSortedByHowBadTheyAre();
     void theCoverageIsFilteredByDeviceAndCategory();
+    void whatTheGreenMeansIsSaidWhileNothingIsPointedAt();
     void openingAFindingAsksForItsExplanation();
 
 private:
@@ -183,6 +185,19 @@ void InsightPagesTest::theArrowKeysWalkOverTheMapAndStopAtItsEdges()
         QTest::keyClick(&map, Qt::Key_Down);
     QTest::keyClick(&map, Qt::Key_Right);
     QCOMPARE(pointed.last().first().toString(), map.SlotText(6, 47));
+}
+
+void InsightPagesTest::theArrowKeysGoOnFromWhereWasClicked()
+{
+    WeekHeatMap map;
+    map.resize(map.sizeHint());
+    QTest::mouseClick(&map, Qt::LeftButton, Qt::NoModifier, map.SlotRect(3, 20).center());
+    QCOMPARE(map.CurrentText(), map.SlotText(3, 20));
+    QTest::keyClick(&map, Qt::Key_Right);
+    QCOMPARE(map.CurrentText(), map.SlotText(3, 21));
+    QTest::mouseClick(&map, Qt::RightButton, Qt::NoModifier, map.SlotRect(0, 0).center());
+    QTest::mouseClick(&map, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1)); // beside the field
+    QCOMPARE(map.CurrentText(), map.SlotText(3, 21));
 }
 
 void InsightPagesTest::withoutASourceThePageSaysWhatToDo()
@@ -328,6 +343,20 @@ void InsightPagesTest::theCoverageIsFilteredByDeviceAndCategory()
     QCOMPARE(device->count(), 2);
     device->setCurrentIndex(1);
     QTRY_VERIFY(said->text().startsWith(QLatin1Char('1')));
+}
+
+void InsightPagesTest::whatTheGreenMeansIsSaidWhileNothingIsPointedAt()
+{
+    CoveragePage page(*m_view);
+    page.SetSite(SmallSite());
+    const auto* said = Child<QLabel>(page, "lblPointedAt");
+    QTRY_VERIFY(said->text().contains(QLatin1String("the green")));
+    const QString strMeaning = said->text();
+    auto* map = Child<WeekHeatMap>(page, "wndWeek");
+    Q_EMIT map->SignalPointedAt(map->SlotText(0, 16));
+    QCOMPARE(said->text(), map->SlotText(0, 16));
+    Q_EMIT map->SignalPointedAt(QString());
+    QCOMPARE(said->text(), strMeaning);
 }
 
 void InsightPagesTest::openingAFindingAsksForItsExplanation()
