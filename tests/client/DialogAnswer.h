@@ -20,14 +20,14 @@ public:
         qApp->installEventFilter(this);
     }
 
-    bool WasGiven() const { return m_bGiven; }
+    bool WasGiven() const { return m_iDialogs > 0; }
+    int Dialogs() const { return m_iDialogs; }         ///< how many opened, answered or not
     QString Question() const { return m_strQuestion; } ///< text of the dialog's label "lblQuestion"
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* const pDialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
-        if (pDialog != nullptr && pDialog->isModal() && !m_bGiven) {
-            m_bGiven = true;
+        if (pDialog != nullptr && pDialog->isModal() && ++m_iDialogs == 1) {
             // Once the dialog runs its own event loop.
             QMetaObject::invokeMethod(
                 pDialog, [this, pDialog] { Give(pDialog); }, Qt::QueuedConnection);
@@ -50,5 +50,5 @@ private:
 
     QString m_strButton;
     QString m_strQuestion;
-    bool m_bGiven = false;
+    int m_iDialogs = 0;
 };

@@ -1,17 +1,12 @@
 #include "DialogAnswer.h"
 #include "TellingPage.h"
 
-#include "client/ClientSettings.h"
-#include "client/MainWindow.h"
 #include "client/PageTabs.h"
 #include "client/QuestionDialog.h"
-#include "client/SchemeSaving.h"
 #include "client/UnsavedWork.h"
-#include "client/store/AlarmSchemeStoreBackend.h"
 #include "client/store/SchemeHistoryFile.h"
-#include "platform/LXGUI/LXMessageNotify.h"
-#include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/client_store/OtherProgram.h"
+#include "tests/client_store/StoreWindowTest.h"
 
 #include <QAction>
 #include <QLabel>
@@ -32,7 +27,7 @@ const char* const Escape = "none";
 } // namespace
 
 /// Edits that would be lost, and everything that could lose them.
-class TestUnsavedWork : public QObject
+class TestUnsavedWork : public StoreWindowTest
 {
     Q_OBJECT
 
@@ -83,10 +78,6 @@ private:
         return m_store->Save(map) == 0;
     }
     QPushButton* Offer() const { return m_window->findChild<QPushButton*>(QStringLiteral("btnLoadAnew")); }
-    static QString LastNote()
-    {
-        return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText();
-    }
     QTabWidget* Tabs() const { return m_window->findChild<QTabWidget*>(QStringLiteral("tabPages")); }
 
     qint64 NewestStep() const
@@ -96,12 +87,6 @@ private:
         return entries && !entries->isEmpty() ? entries->constFirst().iId : 0;
     }
 
-    std::unique_ptr<LogCatcher> m_log;
-    std::unique_ptr<StoreFolder> m_folder;
-    std::unique_ptr<ClientSettings> m_settings;
-    std::unique_ptr<MainWindow> m_window;
-    std::unique_ptr<AlarmSchemeStoreBackend> m_store;
-    std::unique_ptr<SchemeSaving> m_saving;
     std::unique_ptr<DialogAnswer> m_answer;
     QPointer<TellingPage> m_page;
     AlarmInfoMap m_map;
@@ -109,17 +94,10 @@ private:
 
 void TestUnsavedWork::init()
 {
-    m_log = std::make_unique<LogCatcher>();
-    m_folder = std::make_unique<StoreFolder>();
-    m_settings =
-        std::make_unique<ClientSettings>(QDir(m_folder->Root()).filePath(QStringLiteral("client.ini")));
-    m_window = std::make_unique<MainWindow>(*m_settings, UserRole::Administrator, m_folder->Root());
-    m_store = std::make_unique<AlarmSchemeStoreBackend>();
-    m_saving = std::make_unique<SchemeSaving>(*m_store, *m_window);
+    QVERIFY(OpenWindow());
+    OpenStore();
     m_page = new TellingPage;
     m_window->Pages().Show(m_page, QStringLiteral("page"), QStringLiteral("The page"));
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     m_map.clear();
     QCOMPARE(m_store->Load(m_map), 0);
     m_page->m_save = [this] { return Store(true); };
@@ -128,13 +106,7 @@ void TestUnsavedWork::init()
 void TestUnsavedWork::cleanup()
 {
     m_answer.reset();
-    m_store.reset();
-    m_saving.reset();
-    m_window.reset();
-    m_settings.reset();
-    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
-    m_folder.reset();
-    m_log.reset();
+    CloseAll();
 }
 
 void TestUnsavedWork::nothingIsAskedWhileNothingIsUnsaved()

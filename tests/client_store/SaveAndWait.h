@@ -10,3 +10,10 @@ inline int SaveAndWait(AlarmSchemeStoreBackend& backend, const AlarmInfoMap& map
     backend.WaitForSaves();
     return backend.LastOutcome().IsSuccess() ? 0 : -1;
 }
+
+/// Saves as a client does that has just begun: nothing is saved before something was loaded.
+inline int LoadAndSave(AlarmSchemeStoreBackend& backend, const AlarmInfoMap& map)
+{
+    AlarmInfoMap loaded;
+    return backend.Load(loaded) == 0 ? SaveAndWait(backend, map) : -1;
+}

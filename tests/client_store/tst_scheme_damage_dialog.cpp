@@ -1,22 +1,14 @@
 #include "client/SchemeDamageDialog.h"
 
-#include "client/ClientSettings.h"
-#include "client/MainWindow.h"
-#include "client/SchemeSaving.h"
-#include "client/store/AlarmSchemeStoreBackend.h"
 #include "client/store/SchemeBackups.h"
-#include "platform/LXGUI/LXMessageNotify.h"
-#include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client/DialogAnswer.h"
 #include "tests/client_store/SaveAndWait.h"
 #include "tests/client_store/SchemeFiles.h"
+#include "tests/client_store/StoreWindowTest.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLabel>
-#include <QTimer>
 #include <QtTest>
-
-#include <memory>
 
 Q_DECLARE_METATYPE(SchemeDamageAnswer)
 
@@ -33,51 +25,10 @@ SchemeDamage Damage(bool bBackup)
     return damage;
 }
 
-/// Presses a button of the next modal dialog, or Escape when it has none of that name.
-void AnswerDialog(const QByteArray& button)
-{
-    QTimer::singleShot(0, qApp, [button] {
-        QWidget* pDialog = QApplication::activeModalWidget();
-        if (pDialog == nullptr)
-            return;
-        auto* pButton = pDialog->findChild<QAbstractButton*>(QString::fromLatin1(button));
-        if (pButton != nullptr)
-            QTest::mouseClick(pButton, Qt::LeftButton);
-        else
-            QTest::keyClick(pDialog, Qt::Key_Escape);
-    });
-}
-
-/// Presses it as soon as a dialog comes up.
-class WaitingAnswer : public QObject
-{
-public:
-    explicit WaitingAnswer(const QByteArray& button)
-        : m_button(button)
-    {
-        qApp->installEventFilter(this);
-    }
-    int Dialogs() const { return m_iDialogs; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show && qobject_cast<SchemeDamageDialog*>(watched) != nullptr) {
-            ++m_iDialogs;
-            AnswerDialog(m_button);
-        }
-        return false;
-    }
-
-private:
-    QByteArray m_button;
-    int m_iDialogs = 0;
-};
-
 } // namespace
 
 /// How the operator meets a damaged scheme database.
-class SchemeDamageDialogTest : public QObject
+class SchemeDamageDialogTest : public StoreWindowTest
 {
     Q_OBJECT
 
@@ -95,50 +46,22 @@ private Q_SLOTS:
     void aMissingBackupIsAWarningBesideTheSuccess();
 
 private:
-    static QString LastNote()
-    {
-        return LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText();
-    }
     void MakeDamagedWithBackup()
     {
         SchemeFiles::Make(m_folder->File(), 12);
         QVERIFY(!SchemeBackups(m_folder->File()).Make(std::chrono::milliseconds(0)));
         SchemeFiles::DamageTable(m_folder->File());
     }
-    void StartClient()
-    {
-        m_store = std::make_unique<AlarmSchemeStoreBackend>();
-        m_saving = std::make_unique<SchemeSaving>(*m_store, *m_window);
-    }
-
-    std::unique_ptr<LogCatcher> m_log;
-    std::unique_ptr<StoreFolder> m_folder;
-    std::unique_ptr<ClientSettings> m_settings;
-    std::unique_ptr<MainWindow> m_window;
-    std::unique_ptr<AlarmSchemeStoreBackend> m_store;
-    std::unique_ptr<SchemeSaving> m_saving;
 };
 
 void SchemeDamageDialogTest::init()
 {
-    m_log = std::make_unique<LogCatcher>();
-    m_folder = std::make_unique<StoreFolder>();
-    m_settings =
-        std::make_unique<ClientSettings>(QDir(m_folder->Root()).filePath(QStringLiteral("client.ini")));
-    m_window = std::make_unique<MainWindow>(*m_settings, UserRole::Administrator, m_folder->Root());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(OpenWindow());
 }
 
 void SchemeDamageDialogTest::cleanup()
 {
-    m_store.reset();
-    m_saving.reset();
-    m_window.reset();
-    m_settings.reset();
-    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
-    m_folder.reset();
-    m_log.reset();
+    CloseAll();
 }
 
 void SchemeDamageDialogTest::theDialogGivesTheChoice_data()
@@ -160,8 +83,9 @@ void SchemeDamageDialogTest::theDialogGivesTheChoice()
     QFETCH(bool, backup);
     QFETCH(QByteArray, button);
     QFETCH(SchemeDamageAnswer, answer);
-    AnswerDialog(button);
+    const DialogAnswer given(button.constData());
     QVERIFY(SchemeDamageDialog::Ask(Damage(backup), m_window.get()) == answer);
+    QVERIFY(given.WasGiven());
 }
 
 void SchemeDamageDialogTest::theDialogTellsWhatItOffers()
@@ -190,8 +114,8 @@ void SchemeDamageDialogTest::withoutABackupNoneIsOffered()
 void SchemeDamageDialogTest::theOperatorIsAskedAndTheBackupComesBack()
 {
     MakeDamagedWithBackup();
-    const WaitingAnswer answer("btnRestore");
-    StartClient();
+    const DialogAnswer answer("btnRestore");
+    OpenStore();
     QTRY_VERIFY(m_store->LastOutcome().eOperation == SchemeStoreOutcome::Operation::Repair);
     QCOMPARE(answer.Dialogs(), 1);
     QVERIFY(m_store->LastOutcome().IsSuccess());
@@ -205,27 +129,26 @@ void SchemeDamageDialogTest::theOperatorIsAskedAndTheBackupComesBack()
 
 void SchemeDamageDialogTest::whatWasToldOfTheDamageGoesWithIt()
 {
-    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(m_window.get());
+    Notes().SetAnchor(m_window.get());
     MakeDamagedWithBackup();
-    const WaitingAnswer answer("btnRestore");
-    StartClient();
+    const DialogAnswer answer("btnRestore");
+    OpenStore();
     AlarmInfoMap map;
     QCOMPARE(m_store->Load(map), -1); // as of a page that is opened at once
     const QString strDamaged = LastNote();
     QCOMPARE(strDamaged, m_store->LastOutcome().Text());
     QTRY_VERIFY(m_store->LastOutcome().eOperation == SchemeStoreOutcome::Operation::Repair);
     QVERIFY(LastNote() != strDamaged);
-    QCOMPARE(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetVisibleTexts(),
-             QStringList{m_store->LastOutcome().Text()});
-    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->SetAnchor(nullptr);
+    QCOMPARE(Notes().GetVisibleTexts(), QStringList{m_store->LastOutcome().Text()});
+    Notes().SetAnchor(nullptr);
 }
 
 void SchemeDamageDialogTest::closingTheDialogLeavesTheFileAlone()
 {
     MakeDamagedWithBackup();
     const QByteArray before = m_folder->Bytes();
-    const WaitingAnswer answer("none");
-    StartClient();
+    const DialogAnswer answer("none");
+    OpenStore();
     QTRY_COMPARE(answer.Dialogs(), 1);
     AlarmInfoMap map;
     QCOMPARE(m_store->Load(map), -1);
@@ -239,7 +162,7 @@ void SchemeDamageDialogTest::aMissingBackupIsAWarningBesideTheSuccess()
 {
     SchemeFiles::Make(m_folder->File(), 2);
     SchemeFiles::Write(SchemeBackups(m_folder->File()).Folder(), "a file");
-    StartClient();
+    OpenStore();
     AlarmInfoMap map;
     QCOMPARE(m_store->Load(map), 0);
     QCOMPARE(SaveAndWait(*m_store, SchemeFiles::Map(3)), 0);

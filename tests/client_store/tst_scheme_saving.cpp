@@ -1,23 +1,17 @@
 #include "client/SchemeSaving.h"
 
-#include "client/ClientSettings.h"
-#include "client/MainWindow.h"
 #include "client/SaveIndicator.h"
 #include "client/SchemeConflictDialog.h"
 #include "platform/LXGUI/LXMessageNotify.h"
-#include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/client/DialogAnswer.h"
 #include "tests/client_store/OtherProgram.h"
 #include "tests/client_store/SaveAndWait.h"
+#include "tests/client_store/StoreWindowTest.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QSignalSpy>
-#include <QTimer>
 #include <QtTest>
-
-#include <memory>
 
 Q_DECLARE_METATYPE(SchemeConflictAnswer)
 
@@ -27,23 +21,10 @@ const QString ForWriting = QStringLiteral("begin immediate");
 constexpr std::chrono::milliseconds TooLong{60000};
 const AlarmSourceKey SomeKey{QStringLiteral("1$1$0$1"), 3};
 
-void AnswerDialog(const char* szButton)
-{
-    QTimer::singleShot(0, qApp, [szButton] {
-        QWidget* pDialog = QApplication::activeModalWidget();
-        auto* pButton =
-            pDialog == nullptr ? nullptr : pDialog->findChild<QAbstractButton*>(QLatin1String(szButton));
-        if (pButton != nullptr)
-            QTest::mouseClick(pButton, Qt::LeftButton);
-        else if (pDialog != nullptr)
-            QTest::keyClick(pDialog, Qt::Key_Escape);
-    });
-}
-
 } // namespace
 
 /// The client's window around the scheme store.
-class SchemeSavingTest : public QObject
+class SchemeSavingTest : public StoreWindowTest
 {
     Q_OBJECT
 
@@ -71,38 +52,19 @@ private:
     }
     QLabel* Unsaved() const { return m_window->findChild<QLabel*>(QStringLiteral("lblUnsaved")); }
 
-    std::unique_ptr<LogCatcher> m_log;
-    std::unique_ptr<StoreFolder> m_folder;
-    std::unique_ptr<ClientSettings> m_settings;
-    std::unique_ptr<MainWindow> m_window;
-    std::unique_ptr<AlarmSchemeStoreBackend> m_store;
-    std::unique_ptr<SchemeSaving> m_saving;
     AlarmInfoMap m_map;
 };
 
 void SchemeSavingTest::init()
 {
-    m_log = std::make_unique<LogCatcher>();
-    m_folder = std::make_unique<StoreFolder>();
-    m_settings =
-        std::make_unique<ClientSettings>(QDir(m_folder->Root()).filePath(QStringLiteral("client.ini")));
-    m_window = std::make_unique<MainWindow>(*m_settings, UserRole::Administrator, m_folder->Root());
-    m_store = std::make_unique<AlarmSchemeStoreBackend>();
-    m_saving = std::make_unique<SchemeSaving>(*m_store, *m_window);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(OpenWindow());
+    OpenStore();
     QCOMPARE(m_store->Load(m_map), 0);
 }
 
 void SchemeSavingTest::cleanup()
 {
-    m_store.reset();
-    m_saving.reset();
-    m_window.reset();
-    m_settings.reset();
-    LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->Clear();
-    m_folder.reset();
-    m_log.reset();
+    CloseAll();
 }
 
 void SchemeSavingTest::theDialogGivesTheChoice_data()
@@ -120,8 +82,9 @@ void SchemeSavingTest::theDialogGivesTheChoice()
     QFETCH(QByteArray, button);
     QFETCH(SchemeConflictAnswer, answer);
     SchemeConflictDialog dialog(SchemeConflict{3, 0}, m_window.get());
-    AnswerDialog(button.isEmpty() ? "none" : button.constData());
+    const DialogAnswer given(button.isEmpty() ? "none" : button.constData());
     dialog.exec();
+    QVERIFY(given.WasGiven());
     QVERIFY(dialog.Answer() == answer);
 }
 
@@ -142,8 +105,7 @@ void SchemeSavingTest::aFailedSaveMakesItUnsavedUntilOneSucceeds()
     bad.insert({QStringLiteral("a\"b"), 1}, AlarmInfo());
     QCOMPARE(SaveAndWait(*m_store, bad), -1);
     QVERIFY(m_saving->IsUnsaved() && Unsaved()->isVisible());
-    QCOMPARE(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance()->GetLastText(),
-             m_store->LastOutcome().Text());
+    QCOMPARE(LastNote(), m_store->LastOutcome().Text());
     QCOMPARE(SaveAndWait(*m_store, Changed()), 0);
     QVERIFY(!m_saving->IsUnsaved() && !Unsaved()->isVisible());
 }
@@ -164,8 +126,7 @@ void SchemeSavingTest::closingWaitsForTheSaveAndThenCloses()
     OtherProgram other(m_folder->File(), ForWriting, TooLong);
     QVERIFY(other.Holds());
     QCOMPARE(m_store->Save(Changed()), 0);
-    QSignalSpy notes(LXGUI::LXSingleton<LXGUI::LXMessageNotify>::Instance(),
-                     &LXGUI::LXMessageNotify::SignalNotificationAdded);
+    QSignalSpy notes(&Notes(), &LXGUI::LXMessageNotify::SignalNotificationAdded);
     QVERIFY(!m_window->close());
     QCOMPARE(notes.count(), 1);
     QVERIFY(m_window->isVisible() && closing.isEmpty());
@@ -194,8 +155,9 @@ void SchemeSavingTest::unsavedChangesAreLostOnlyWithConsent()
     AlarmInfoMap bad = m_map;
     bad.insert({QStringLiteral("a\"b"), 1}, AlarmInfo());
     QCOMPARE(SaveAndWait(*m_store, bad), -1);
-    AnswerDialog("none"); // Escape refuses
+    const DialogAnswer refusal("none"); // by Escape
     QVERIFY(!m_window->close());
+    QVERIFY(refusal.WasGiven());
     QVERIFY(m_window->isVisible());
 }
 
@@ -226,8 +188,9 @@ void SchemeSavingTest::theQuestionReachesTheOperator()
         map[AlarmSourceKey{QStringLiteral("theirs"), 1}].bOpen = true;
         QCOMPARE(SaveAndWait(other, map), 0);
     }
-    AnswerDialog("btnKeepOthers");
+    const DialogAnswer answer("btnKeepOthers");
     QCOMPARE(SaveAndWait(*m_store, Changed()), 0);
+    QVERIFY(answer.WasGiven());
     AlarmInfoMap stored;
     QCOMPARE(m_store->Load(stored), 0);
     QCOMPARE(stored.size(), 2);
