@@ -1,17 +1,11 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/SampleSchemes.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 
 #include <QtTest>
 
-namespace {
-
-AlarmSourceKey Key(const char* szSource, int32_t iType)
-{
-    return AlarmSourceKey{QString::fromLatin1(szSource), iType};
-}
-
-} // namespace
+using SampleSchemes::Key;
 
 class SchemeStoreReadsTest : public QObject
 {

@@ -1,6 +1,7 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "tests/AlarmSchemeData/LiteralStore.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/SampleSchemes.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 
 #include <QDateTime>
@@ -10,36 +11,11 @@
 
 #include <limits>
 
+using SampleSchemes::Key;
+using SampleSchemes::Output;
+using SampleSchemes::Rich;
+
 namespace {
-
-AlarmSourceKey Key(const char* szSource, int32_t iType)
-{
-    return AlarmSourceKey{QString::fromUtf8(szSource), iType};
-}
-
-AlarmLinkAlarmOut Output(const char* szKey, bool bAutoOpen, int32_t iTime)
-{
-    return AlarmLinkAlarmOut{QString::fromUtf8(szKey), bAutoOpen, iTime};
-}
-
-/// One scheme with something in every part.
-AlarmInfo Rich()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    info.bEmapTwinkle = true;
-    info.videoSplit.SplitRow = 2;
-    info.videoSplit.SplitCloum = 2;
-    info.videoSplit.SplitCount = 4;
-    info.videoSplit.cells[3] = AlarmSplitWindow{false, 2, 1, 0, 3, 2};
-    info.videoSplit.videoLinks.insert(0, AlarmLinkVideo{QStringLiteral("90$1$0$1"), 4, 1, true, true, 30});
-    info.videoSplit.videoLinks.insert(3, AlarmLinkVideo{QStringLiteral("90$1$0$2"), -1, -1, false, false, 9});
-    info.listAlarmOut = {Output("31$3$0$0", true, 20), Output("30$3$0$0", false, 43200)};
-    info.listDoor = {{QStringLiteral("12"), true}, {QStringLiteral("11"), false}};
-    info.defenceTime[0] = {{0, 100}, {200, 300}};
-    info.defenceTime[3].clear();
-    return info;
-}
 
 /// Schemes of five doors.
 AlarmInfoMap Doors()
@@ -432,12 +408,11 @@ void SchemeStoreRoadsTest::aSecondOutputInAListKeepsThePlaceOfTheFirst()
 {
     Fork();
     AlarmInfoMap map = Doors();
-    map.first().listAlarmOut = {Output("a", true, 1), Output("b", true, 2), Output("a", false, 3)};
+    map.first().listAlarmOut = {Output("a", 1), Output("b", 2), Output("a", 3, false)};
     SaveBoth(map);
     AlarmInfoMap loaded;
     QCOMPARE(m_store->ReadAll(&loaded), 0);
-    QCOMPARE(loaded.first().listAlarmOut,
-             (QList<AlarmLinkAlarmOut>{Output("a", false, 3), Output("b", true, 2)}));
+    QCOMPARE(loaded.first().listAlarmOut, (QList<AlarmLinkAlarmOut>{Output("a", 3, false), Output("b", 2)}));
 }
 
 void SchemeStoreRoadsTest::manyDoublesInAListKeepTheirFirstPlaces()

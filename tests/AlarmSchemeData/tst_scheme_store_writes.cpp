@@ -1,45 +1,15 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/SampleSchemes.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 
 #include <QtTest>
 
 #include <sqlite3.h>
 
-namespace {
-
-AlarmSourceKey Key(const char* szSource, int32_t iType)
-{
-    return AlarmSourceKey{QString::fromLatin1(szSource), iType};
-}
-
-AlarmLinkAlarmOut Output(const char* szKey, int32_t iTime)
-{
-    return AlarmLinkAlarmOut{QString::fromLatin1(szKey), true, iTime};
-}
-
-/// One scheme with something in every part.
-AlarmInfo Rich()
-{
-    AlarmInfo info;
-    info.bOpen = true;
-    info.bOpenSound = true;
-    info.bSendEmail = true;
-    info.videoSplit.SplitRow = 2;
-    info.videoSplit.SplitCloum = 3;
-    info.videoSplit.SplitCount = 6;
-    info.videoSplit.cells[5] = AlarmSplitWindow{false, 2, 1, 0, 3, 2};
-    info.videoSplit.videoLinks.insert(0, AlarmLinkVideo{QStringLiteral("90$1$0$1"), 4, 1, true, true, 30});
-    info.videoSplit.videoLinks.insert(5,
-                                      AlarmLinkVideo{QStringLiteral("90$1$0$2"), -1, -1, false, false, 20});
-    info.listAlarmOut = {Output("31$3$0$0", 20), Output("30$3$0$0", 43200)};
-    info.listDoor = {{QStringLiteral("12"), true}, {QStringLiteral("11"), false}};
-    info.defenceTime[0] = {{0, 100}, {200, 300}};
-    info.defenceTime[3].clear();
-    return info;
-}
-
-} // namespace
+using SampleSchemes::Key;
+using SampleSchemes::Output;
+using SampleSchemes::Rich;
 
 class SchemeStoreWritesTest : public QObject
 {

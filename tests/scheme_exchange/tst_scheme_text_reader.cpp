@@ -1,3 +1,4 @@
+#include "tests/AlarmSchemeData/SampleSchemes.h"
 #include "tests/scheme_exchange/SchemeTexts.h"
 
 #include <QTest>
@@ -112,18 +113,8 @@ void TestSchemeTextReader::aMissingFieldTakesItsDefault()
 
 void TestSchemeTextReader::everyFieldIsRead()
 {
-    AlarmInfo info;
-    info.bOpen = true;
-    info.bOpenSound = true;
-    info.bEmapTwinkle = true;
-    info.bSendEmail = true;
-    info.videoSplit.SplitRow = 2;
-    info.videoSplit.SplitCloum = 3;
-    info.videoSplit.SplitCount = 5;
-    info.videoSplit.cells[4] = AlarmSplitWindow{false, 7, 1, 2, 3, 4};
-    info.videoSplit.videoLinks.insert(3, AlarmLinkVideo{QStringLiteral("8$1$0$2"), 5, 1, false, true, 30});
-    info.listAlarmOut = {AlarmLinkAlarmOut{QStringLiteral("30$3$0$0"), false, 45}};
-    info.listDoor = {AlarmLinkDoor{QStringLiteral("-4294967299"), true}};
+    AlarmInfo info = SampleSchemes::Rich();
+    info.listDoor.append(AlarmLinkDoor{QStringLiteral("-4294967299"), true}); // beyond 32 bits
     info.defenceTime[1] = {AlarmTimeRegion{0, 3600}, AlarmTimeRegion{7200, 86399}};
     const AlarmInfoMap map{{AlarmSourceKey{QStringLiteral("7$1$0$12"), 101}, info}};
     AlarmInfoMap read;
