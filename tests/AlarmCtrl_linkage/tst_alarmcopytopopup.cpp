@@ -1,7 +1,8 @@
 #include "AlarmCtrl/QAlarmCopyToPopup.h"
+#include "tests/AlarmCtrl_linkage/CopyPopupChecks.h"
 #include "tests/AlarmCtrl_linkage/SiteHost.h"
+#include "tests/AlarmCtrl_linkage/TestLines.h"
 
-#include <QMetaMethod>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -35,14 +36,7 @@ struct Desk
         }
     }
     void Ok() { popup.GetButton(QDialogButtonBox::Ok)->click(); }
-    QStringList Keys() const
-    {
-        QStringList keys;
-        for (const QList<QVariant>& arguments : copies)
-            keys += QStringList(arguments.first().value<QList<QString>>());
-        keys.sort();
-        return keys;
-    }
+    QStringList Keys() const { return CopyPopupChecks::CopiedKeys(copies); }
 
     SiteHost host;
     QAlarmCopyToPopup popup;
@@ -111,21 +105,12 @@ void TestAlarmCopyToPopup::thePopupHasItsStatedFormAndSize()
 
 void TestAlarmCopyToPopup::thePopupStandsAboveItsParent()
 {
-    SiteHost host{Site()};
-    QWidget window;
-    window.setGeometry(400, 620, 300, 100);
-    QPushButton button(&window);
-    button.setGeometry(200, 50, 70, 24);
-    const QAlarmCopyToPopup popup(5, &button);
-    QCOMPARE(popup.pos(), button.mapToGlobal(QPoint(70 - 222, -510)));
+    CopyPopupChecks::StandsAboveItsParent<QAlarmCopyToPopup>(5);
 }
 
 void TestAlarmCopyToPopup::slotsAndSignalAreKnownByTheirSignatures()
 {
-    const QMetaObject& meta = QAlarmCopyToPopup::staticMetaObject;
-    QVERIFY(meta.indexOfSignal("SignalCopyTo(QList<QString>)") >= meta.methodOffset());
-    for (const char* const slot : {"OnOk()", "OnCancel()", "OnGroupTreeChkChanged(QModelIndex,bool)"})
-        QVERIFY2(meta.indexOfSlot(slot) >= meta.methodOffset(), slot);
+    CopyPopupChecks::IsKnownByItsSignatures<QAlarmCopyToPopup>();
 }
 
 void TestAlarmCopyToPopup::theTreeOffersWhatTheModeSays_data()
@@ -164,18 +149,12 @@ void TestAlarmCopyToPopup::tickingEverythingYieldsTheModesKeys_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QStringList>("keys");
-    const auto keys = [](std::initializer_list<const char*> texts) {
-        QStringList list;
-        for (const char* const text : texts)
-            list.append(QLatin1String(text));
-        return list;
-    };
     QTest::newRow("mode 1") << 1
-                            << keys({"102$1$0$1021", "103$1$0$1031", "104$1$0$1041", "105$1$0$1051",
-                                     "113$1$0$1131"});
-    QTest::newRow("mode 2") << 2 << keys({"102$1$0$0", "103$1$0$0", "113$1$0$0"});
-    QTest::newRow("mode 3") << 3 << keys({"101$1$0$0"});
-    QTest::newRow("mode 4") << 4 << keys({"115$3$0$0"});
+                            << Lines({"102$1$0$1021", "103$1$0$1031", "104$1$0$1041", "105$1$0$1051",
+                                      "113$1$0$1131"});
+    QTest::newRow("mode 2") << 2 << Lines({"102$1$0$0", "103$1$0$0", "113$1$0$0"});
+    QTest::newRow("mode 3") << 3 << Lines({"101$1$0$0"});
+    QTest::newRow("mode 4") << 4 << Lines({"115$3$0$0"});
     QStringList inputs;
     for (int type = 0; type <= 18; ++type)
         inputs.append(QStringLiteral("%1$3$0$%2").arg(100 + type).arg(1003 + 10 * type));

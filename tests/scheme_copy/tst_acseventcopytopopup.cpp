@@ -1,9 +1,10 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSourceKey.h"
 #include "scheme_editor/ACSCopyModes.h"
 #include "scheme_editor/ACSEventCopyToPopup.h"
+#include "tests/AlarmCtrl_linkage/CopyPopupChecks.h"
 #include "tests/AlarmCtrl_linkage/SiteHost.h"
+#include "tests/AlarmCtrl_linkage/TestLines.h"
 
-#include <QMetaMethod>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -40,14 +41,7 @@ struct Desk
         QCoreApplication::sendPostedEvents(popup.data(), QEvent::DeferredDelete);
         return popup.isNull();
     }
-    QStringList Keys() const
-    {
-        QStringList keys;
-        for (const QList<QVariant>& arguments : copies)
-            keys += QStringList(arguments.first().value<QList<QString>>());
-        keys.sort();
-        return keys;
-    }
+    QStringList Keys() const { return CopyPopupChecks::CopiedKeys(copies); }
 
     SiteHost host;
     QPointer<ACSEventCopyToPopup> popup;
@@ -90,14 +84,6 @@ public:
 private:
     int32_t m_iKind;
 };
-
-QStringList Lines(std::initializer_list<const char*> lines)
-{
-    QStringList texts;
-    for (const char* const line : lines)
-        texts.append(QLatin1String(line));
-    return texts;
-}
 
 } // namespace
 
@@ -155,21 +141,12 @@ void TestACSEventCopyToPopup::thePopupHasItsStatedFormSizeAndAttribute()
 
 void TestACSEventCopyToPopup::thePopupStandsAboveItsParent()
 {
-    SiteHost host{Site()};
-    QWidget window;
-    window.setGeometry(400, 620, 300, 100);
-    QPushButton button(&window);
-    button.setGeometry(200, 50, 70, 24);
-    const ACSEventCopyToPopup popup(2, &button);
-    QCOMPARE(popup.pos(), button.mapToGlobal(QPoint(70 - 222, -510)));
+    CopyPopupChecks::StandsAboveItsParent<ACSEventCopyToPopup>(2);
 }
 
 void TestACSEventCopyToPopup::slotsAndSignalAreKnownByTheirSignatures()
 {
-    const QMetaObject& meta = ACSEventCopyToPopup::staticMetaObject;
-    QVERIFY(meta.indexOfSignal("SignalCopyTo(QList<QString>)") >= meta.methodOffset());
-    for (const char* const slot : {"OnGroupTreeChkChanged(QModelIndex,bool)", "OnOk()", "OnCancel()"})
-        QVERIFY2(meta.indexOfSlot(slot) >= meta.methodOffset(), slot);
+    CopyPopupChecks::IsKnownByItsSignatures<ACSEventCopyToPopup>();
 }
 
 void TestACSEventCopyToPopup::theModelIsModeOneAndKnowsTheHostsExpansion()

@@ -3,6 +3,7 @@
 #include "platform/VantaComponent/GroupTreeCtrl.h"
 #include "platform/VantaModel/NodeRoles.h"
 #include "scheme_editor/ACSEventSchemeEditor.h"
+#include "tests/AlarmCtrl_linkage/TestLines.h"
 #include "tests/scheme_editor/OpenPage.h"
 #include "tests/scheme_editor/PageHost.h"
 #include "tests/scheme_editor/PageSchemes.h"
@@ -13,18 +14,6 @@
 
 using namespace PageSchemes;
 using namespace PageSite;
-
-namespace {
-
-QStringList Keys(std::initializer_list<const char*> keys)
-{
-    QStringList list;
-    for (const char* const key : keys)
-        list.append(QLatin1String(key));
-    return list;
-}
-
-} // namespace
 
 /// Devices that leave the site while the page is open.
 class TestPageRemoval : public QObject
@@ -67,7 +56,7 @@ void TestPageRemoval::entriesOfTheDeviceLeaveTheMap()
     OpenPage page(&host.managers);
     page.Page().OnRemoveDevice(Lobby);
     QCOMPARE(SchemeText::Keys(page.Schemes()),
-             Keys({"-100$1$0$1#101", "10$1$0$1#101", "1000$1$0$1#101", "200$1$0$100#101"}));
+             Lines({"-100$1$0$1#101", "10$1$0$1#101", "1000$1$0$1#101", "200$1$0$100#101"}));
 }
 
 void TestPageRemoval::onlyKeysOfFourFieldsBelongToADevice()
@@ -79,7 +68,7 @@ void TestPageRemoval::onlyKeysOfFourFieldsBelongToADevice()
                    {{QString(), 1}, On()}});
     OpenPage page(&host.managers);
     page.Page().OnRemoveDevice(Lobby);
-    QCOMPARE(SchemeText::Keys(page.Schemes()), Keys({"#1", "100#1", "100$1$0#1", "100$1$0$101$7#1"}));
+    QCOMPARE(SchemeText::Keys(page.Schemes()), Lines({"#1", "100#1", "100$1$0#1", "100$1$0$101$7#1"}));
 }
 
 void TestPageRemoval::aRemovalSendsNothingToTheHost()
@@ -98,7 +87,7 @@ void TestPageRemoval::theHostsRemovalReachesThePage()
     PageHost host({{{Key("200$1$0$201"), 101}, On()}, {{Key("300$1$0$301"), 101}, On()}});
     OpenPage page(&host.managers);
     QVERIFY(host.devices.RemoveDevice(Vault));
-    QTRY_COMPARE(SchemeText::Keys(page.Schemes()), Keys({"300$1$0$301#101"}));
+    QTRY_COMPARE(SchemeText::Keys(page.Schemes()), Lines({"300$1$0$301#101"}));
 }
 
 void TestPageRemoval::noEntryOfARemovedDeviceReachesTheNextSave()
@@ -112,7 +101,7 @@ void TestPageRemoval::noEntryOfARemovedDeviceReachesTheNextSave()
     QVERIFY(host.devices.RemoveDevice(Lobby));
     QTRY_VERIFY(SchemeText::KeysOfDevice(page.Schemes(), Lobby).isEmpty());
     page.Page().OnSave();
-    QCOMPARE(SchemeText::Keys(host.Kept().schemes), Keys({"200$1$0$201#101"}));
+    QCOMPARE(SchemeText::Keys(host.Kept().schemes), Lines({"200$1$0$201#101"}));
 }
 
 void TestPageRemoval::editsInTheEditorsOfARemovedDoorAreDropped()
@@ -147,7 +136,7 @@ void TestPageRemoval::editsInTheEditorsOfARemovedInputAreDropped()
     QVERIFY(page.hands.ClickDevice(Garage));
     QVERIFY(!page.hands.IsSoundShown());
     QVERIFY(page.hands.Save());
-    QCOMPARE(SchemeText::Keys(host.Kept().schemes), Keys({"300$3$1$302#2"}));
+    QCOMPARE(SchemeText::Keys(host.Kept().schemes), Lines({"300$3$1$302#2"}));
 }
 
 void TestPageRemoval::nothingThatAPersonDoesBringsTheDoorBack()
@@ -265,7 +254,7 @@ void TestPageRemoval::theRemovalOfAnUnselectedDeviceByIdAlone()
     QVERIFY(page.hands.IsSoundShown());
     QCOMPARE(page.hands.InputKeys().size(), 2);
     QVERIFY(page.hands.Save());
-    QCOMPARE(SchemeText::Edited(host.Kept().schemes), Keys({"100$3$1$103#2 sound"}));
+    QCOMPARE(SchemeText::Edited(host.Kept().schemes), Lines({"100$3$1$103#2 sound"}));
 }
 
 void TestPageRemoval::anUnknownDeviceIsIgnored()
