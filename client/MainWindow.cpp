@@ -29,6 +29,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -281,11 +282,17 @@ void MainWindow::SetSite(const QString& strFile, int iDevices)
 
 void MainWindow::ShowSaveOutcome(const SchemeStoreOutcome& outcome)
 {
-    if (outcome.IsSuccess() && outcome.eOperation == SchemeStoreOutcome::Operation::Repair) {
-        // Errors stay until they are clicked away, and "restore a copy of it" would be wrong advice by now.
-        LXGUI::LXSingleton<LXMessageNotify>::Instance()->Clear();
+    if (outcome.IsSuccess()) {
+        // Errors stay until they are clicked away, and what they advise would be wrong by now.
+        const QStringList overcome = std::exchange(m_failures, {});
+        for (const QString& strFailure : overcome) {
+            LXGUI::LXSingleton<LXMessageNotify>::Instance()->Withdraw(strFailure);
+        }
     }
     if (!outcome.IsSuccess()) {
+        if (!m_failures.contains(outcome.Text())) {
+            m_failures.append(outcome.Text());
+        }
         CLIENT_LOG(lxl::LogError, "schemes: %s (%s)", qUtf8Printable(outcome.Text()),
                    qUtf8Printable(outcome.strTechnical));
         Note(outcome.Text(), LXMessageNotify::Error);

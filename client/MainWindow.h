@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
 
 #include <memory>
 
@@ -109,4 +110,5 @@ private:
     QLabel* m_pSite;
     QLabel* m_pUnsaved;
     SaveIndicator* m_pSaving;
+    QStringList m_failures; ///< of loading and saving, told since the last success
 };

@@ -166,6 +166,16 @@ QStringList LXMessageNotify::GetVisibleTexts() const
     return texts;
 }
 
+void LXMessageNotify::Withdraw(const QString& strText)
+{
+    const QVector<LXMessageNotePanel*> staying = d->Staying();
+    for (LXMessageNotePanel* pPanel : staying) {
+        if (pPanel->Text() == strText) {
+            pPanel->Leave();
+        }
+    }
+}
+
 void LXMessageNotify::Clear()
 {
     d->ClearPanels();

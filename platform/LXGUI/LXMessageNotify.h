@@ -37,6 +37,9 @@ public:
     void SetAnchor(QWidget* pWindow); ///< the window over whose lower right corner notes appear; not owned
     QString GetLastText() const;      ///< text of the newest note, empty when there has been none
     QStringList GetVisibleTexts() const;
+    /// Lets the notes with this text leave, when what they say holds no more; does nothing when there are
+    /// none.
+    void Withdraw(const QString& strText);
     void Clear();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -105,6 +105,17 @@ private Q_SLOTS:
         QCOMPARE(Notify()->GetVisibleTexts().join(QLatin1Char(' ')), QStringLiteral("2 3 4 5"));
     }
 
+    void aNoteThatHoldsNoMoreIsWithdrawnAlone()
+    {
+        Notify()->Withdraw(QStringLiteral("nobody said so"));
+        Notify()->AddTextNotification(QStringLiteral("one"), LXMessageNotify::Error);
+        Notify()->AddTextNotification(QStringLiteral("two"), LXMessageNotify::Error);
+        Notify()->Withdraw(QStringLiteral("one"));
+        QCOMPARE(Notify()->GetVisibleTexts(), QStringList{QStringLiteral("two")});
+        Notify()->Withdraw(QStringLiteral("one"));
+        QCOMPARE(Notify()->GetVisibleTexts(), QStringList{QStringLiteral("two")});
+    }
+
     void errorsLeaveLast()
     {
         Notify()->AddTextNotification(QStringLiteral("error"), LXMessageNotify::Error);

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void languageAndThemeAreKeptForTheNextStart();
     void theSiteIsNamedWithItsDevices();
     void outcomesOfSavingAreNotes();
+    void aFailureIsToldUntilTheNextSuccess();
     void reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs();
     void whatIsUnsavedIsShown();
 
@@ -325,6 +326,25 @@ void TestMainWindow::outcomesOfSavingAreNotes()
     m_window->ShowSaveOutcome(
         Outcome::Failure(Outcome::Operation::Load, Outcome::Reason::Damaged, QStringLiteral("malformed")));
     QCOMPARE(notes.count(), 3);
+}
+
+void TestMainWindow::aFailureIsToldUntilTheNextSuccess()
+{
+    using Outcome = SchemeStoreOutcome;
+    Notes()->SetAnchor(m_window.get());
+    Notes()->AddTextNotification(QStringLiteral("something else"), LXGUI::LXMessageNotify::Error);
+    const Outcome full = Outcome::Failure(Outcome::Operation::Save, Outcome::Reason::DiskFull, QString());
+    const Outcome locked = Outcome::Failure(Outcome::Operation::Save, Outcome::Reason::Locked, QString());
+    m_window->ShowSaveOutcome(full);
+    m_window->ShowSaveOutcome(locked);
+    QCOMPARE(Notes()->GetVisibleTexts(),
+             (QStringList{QStringLiteral("something else"), full.Text(), locked.Text()}));
+
+    const Outcome saved = Outcome::Success(Outcome::Operation::Save, 3);
+    m_window->ShowSaveOutcome(saved);
+
+    QCOMPARE(Notes()->GetVisibleTexts(), (QStringList{QStringLiteral("something else"), saved.Text()}));
+    Notes()->SetAnchor(nullptr);
 }
 
 void TestMainWindow::reloadingMakesThePagesThatSaveAnewAndKeepsTheTabs()
