@@ -2,6 +2,7 @@
 
 #include "platform/SystemLibrary/SystemPaths.h"
 #include "platform/lxl/DPrintLog.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,17 +27,8 @@ public:
     {
         return QDir(QGetDatabaseDirPath()).absoluteFilePath(QStringLiteral("AlarmScheme.db"));
     }
-    QByteArray Bytes() const
-    {
-        QFile file(File());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-    }
-    void Write(const QByteArray& bytes) const
-    {
-        QFile file(File());
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write a file for a test");
-    }
+    QByteArray Bytes() const { return TestFile::Bytes(File()); }
+    void Write(const QByteArray& bytes) const { TestFile::Write(File(), bytes); }
 
 private:
     QTemporaryDir m_directory;

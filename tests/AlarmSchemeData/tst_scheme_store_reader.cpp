@@ -5,6 +5,7 @@
 #include "tests/AlarmSchemeData/RawDatabase.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
 #include "tests/AlarmSchemeData/StrangeFile.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 #include "tests/client_store/OtherProgram.h"
 
 #include <QElapsedTimer>
@@ -70,12 +71,7 @@ public:
         return QDir(m_directory.path()).absoluteFilePath(QString::fromLatin1(szName));
     }
     QString Folder() const { return m_directory.path(); }
-    void Write(const QByteArray& bytes) const
-    {
-        QFile file(File());
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write a file for a test");
-    }
+    void Write(const QByteArray& bytes) const { TestFile::Write(File(), bytes); }
 
 private:
     QTemporaryDir m_directory;

@@ -1,4 +1,5 @@
 #include "platform/SystemLibrary/WholeFile.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 #include "tests/SystemLibrary/FullDisk.h"
 
 #include <QDataStream>
@@ -12,15 +13,7 @@
 #include <cerrno>
 #endif
 
-namespace {
-
-QByteArray Bytes(const QString& strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-} // namespace
+using TestFile::Bytes;
 
 class TestWholeFile : public QObject
 {

@@ -2,6 +2,7 @@
 
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,9 @@
 
 /// Scheme files as tests of their keeping need them: whole, full of schemes, damaged, cut off.
 namespace SchemeFiles {
+
+using TestFile::Bytes;
+using TestFile::Write;
 
 inline AlarmInfoMap Map(int iCount, bool bOpen = true)
 {
@@ -37,19 +41,6 @@ inline AlarmInfoMap Read(const QString& strPath)
     if (store.ReadAll(&map) != 0)
         qFatal("cannot read a scheme file for a test");
     return map;
-}
-
-inline QByteArray Bytes(const QString& strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-inline void Write(const QString& strPath, const QByteArray& bytes)
-{
-    QFile file(strPath);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write a file for a test");
 }
 
 inline QStringList Names(const QString& strFolder)

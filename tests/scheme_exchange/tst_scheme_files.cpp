@@ -2,6 +2,7 @@
 #include "scheme_services/exchange/SchemeFiles.h"
 #include "tests/AlarmSchemeData/OracleRounds.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 #include "tests/SystemLibrary/FullDisk.h"
 #include "tests/scheme_exchange/SchemeTexts.h"
 
@@ -13,24 +14,14 @@
 #include <cerrno>
 #endif
 
+using TestFile::Bytes;
+using TestFile::Write;
+
 namespace {
 
 QString In(const QTemporaryDir& folder, const char* szName)
 {
     return QDir(folder.path()).absoluteFilePath(QLatin1String(szName));
-}
-
-QByteArray Bytes(const QString& strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-void Write(const QString& strPath, const QByteArray& bytes)
-{
-    QFile file(strPath);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write a file for a test");
 }
 
 AlarmInfoMap Doors(int iDoors)

@@ -3,6 +3,7 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmSchemeDatabaseParser.h"
 #include "platform/SiteLibrary/SiteFile.h"
 #include "tests/AlarmSchemeData/StoreFolder.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 #include "tools/CommandLine.h"
 
 #include <QStringList>
@@ -57,10 +58,8 @@ public:
     }
     QString Write(const char* szName, const QByteArray& bytes) const
     {
-        QFile file(File(szName));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write a file for a test");
-        return file.fileName();
+        TestFile::Write(File(szName), bytes);
+        return File(szName);
     }
 
 private:

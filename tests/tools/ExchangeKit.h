@@ -2,6 +2,7 @@
 
 #include "client/store/SchemeHistoryFile.h"
 #include "tests/AlarmSchemeData/RawDatabase.h"
+#include "tests/AlarmSchemeData/TestFile.h"
 #include "tests/scheme_exchange/SchemeTexts.h"
 #include "tests/tools/CommandKit.h"
 
@@ -12,6 +13,8 @@
 #include <QJsonObject>
 
 // What tests of the commands that bring schemes in and out have in common.
+
+using TestFile::Bytes;
 
 inline AlarmSourceKey Key(int iDoor)
 {
@@ -28,12 +31,6 @@ inline AlarmInfoMap Doors(int iDoors)
         map.insert(Key(door), info);
     }
     return map;
-}
-
-inline QByteArray Bytes(const QString& strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
 }
 
 inline QJsonObject Json(const QString& strText)
