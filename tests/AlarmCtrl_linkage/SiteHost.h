@@ -3,38 +3,14 @@
 #include "platform/LXPluginAPI/IHubManager.h"
 #include "platform/SiteLibrary/SiteDeviceManager.h"
 #include "platform/VantaComponent/GroupTreeCtrl.h"
-#include "platform/VantaLogic/ITreeExpansion.h"
 #include "platform/VantaModel/GroupTreeModel.h"
 #include "plugin/host_services/HostServices.h"
+#include "tests/VantaTree/ExpansionMemory.h"
 
-#include <QSet>
 #include <QStandardItem>
 #include <QWidget>
 
 #include <utility>
-
-/// Remembers unfolded nodes and how often it was asked.
-class CountingExpansion : public VantaLogic::ITreeExpansion
-{
-public:
-    bool IsExpanded(int32_t iNodeKind, int64_t iNodeId) const override
-    {
-        ++m_iAsked;
-        return m_expanded.contains({iNodeKind, iNodeId});
-    }
-    void SetExpanded(int32_t iNodeKind, int64_t iNodeId, bool bExpanded) override
-    {
-        if (bExpanded) {
-            m_expanded.insert({iNodeKind, iNodeId});
-        } else {
-            m_expanded.remove({iNodeKind, iNodeId});
-        }
-    }
-
-private:
-    mutable int m_iAsked = 0;
-    QSet<QPair<int32_t, int64_t>> m_expanded;
-};
 
 /// A host with one site: its managers are in the module's table while it lives.
 class SiteHost : private LXPluginAPI::IHubManager
@@ -50,7 +26,7 @@ public:
     SiteHost& operator=(const SiteHost&) = delete;
 
     SiteDeviceManager manager;
-    CountingExpansion expansion;
+    ExpansionMemory expansion;
 
 private:
     std::string GetServiceName() const override { return "HubPluginManager"; }

@@ -146,20 +146,6 @@ bool MainWindowDouble::event(QEvent* event)
     return true;
 }
 
-bool TreeExpansionDouble::IsExpanded(int32_t iNodeKind, int64_t iNodeId) const
-{
-    return m_expanded.contains({iNodeKind, iNodeId});
-}
-
-void TreeExpansionDouble::SetExpanded(int32_t iNodeKind, int64_t iNodeId, bool bExpanded)
-{
-    if (bExpanded) {
-        m_expanded.insert({iNodeKind, iNodeId});
-    } else {
-        m_expanded.remove({iNodeKind, iNodeId});
-    }
-}
-
 std::string HubDouble::GetServiceName() const
 {
     return "HubPluginManager";

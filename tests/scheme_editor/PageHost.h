@@ -3,10 +3,9 @@
 #include "AlarmCtrl/AlarmSchemeData/AlarmInfo.h"
 #include "platform/LXPluginAPI/IHubManager.h"
 #include "platform/SiteLibrary/SiteDeviceManager.h"
-#include "platform/VantaLogic/ITreeExpansion.h"
+#include "tests/VantaTree/ExpansionMemory.h"
 
 #include <QObject>
-#include <QPair>
 #include <QSet>
 #include <QVector>
 
@@ -92,16 +91,6 @@ struct KeptSchemes
     int iSaveResult = 0;
 };
 
-class TreeExpansionDouble : public VantaLogic::ITreeExpansion
-{
-public:
-    bool IsExpanded(int32_t iNodeKind, int64_t iNodeId) const override;
-    void SetExpanded(int32_t iNodeKind, int64_t iNodeId, bool bExpanded) override;
-
-private:
-    QSet<QPair<int32_t, int64_t>> m_expanded;
-};
-
 /// A hub whose sub-managers can be left out.
 class HubDouble : public LXPluginAPI::IHubManager
 {
@@ -134,7 +123,7 @@ public:
     static void MakeMailUnusable();
 
     ContraryDeviceManager devices;
-    TreeExpansionDouble expansion;
+    ExpansionMemory expansion;
     MainWindowDouble mainWindow;
     HubDouble hub;
     LXPluginAPI::ManagerList managers;
