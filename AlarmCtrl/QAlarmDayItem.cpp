@@ -25,8 +25,8 @@ QAlarmDayItem::QAlarmDayItem(QWidget* parent)
     , m_disabledLabelColour(QStringLiteral("#787878"))
 {
     setFixedHeight(ScaleHeight);
-    setAttribute(
-        Qt::WA_StyledBackground); // the labels' colour is fixed; the host's style gives them a ground
+    // The labels' colour is fixed; the host's style gives them a ground.
+    setAttribute(Qt::WA_StyledBackground);
 }
 
 QAlarmDayItem::~QAlarmDayItem() = default;

@@ -5,7 +5,8 @@
 #include <QWidget>
 
 /// The week as a field of half hours, seven rows of 48, each the greener the more schemes are armed. The
-/// arrow keys walk over the field, from where the mouse has clicked last; what the field under the cursor or the focus stands for is said in words.
+/// arrow keys walk over the field, from where the mouse has clicked last; what the field under the cursor or
+/// the focus stands for is said in words.
 class WeekHeatMap : public QWidget
 {
     Q_OBJECT
