@@ -107,6 +107,14 @@ bool StoreConnection::IsDamaged() const
     return m_failure && ReasonOfFailure(*m_failure) == SchemeStoreOutcome::Reason::Damaged;
 }
 
+bool StoreConnection::IsWriteProtected() const
+{
+    const QFileInfo file(FilePath());
+    const QFileInfo journal(FilePath() + QLatin1String("-journal"));
+    const auto isProtected = [](const QFileInfo& info) { return info.exists() && !info.isWritable(); };
+    return isProtected(file) || isProtected(journal) || isProtected(QFileInfo(file.absolutePath()));
+}
+
 bool StoreConnection::IsMoved() const
 {
     int moved = 0;

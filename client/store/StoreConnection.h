@@ -43,6 +43,8 @@ public:
     bool IsDamaged() const; ///< as found by the last opening
     /// Whether the file still is where it was opened.
     bool IsMoved() const;
+    /// Whether rights keep this user from writing the file, its journal or their folder by now.
+    bool IsWriteProtected() const;
     /// Whether no other program has changed the journal since the opening.
     bool HasDurableJournal() const;
     /// Whether another client works with the file.

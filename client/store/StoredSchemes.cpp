@@ -422,12 +422,15 @@ void StoredSchemes::Take(const SavePlan& plan)
 }
 
 SaveResult StoredSchemes::FailureOf(const std::optional<AlarmSchemeStatementFailure>& failure,
-                                    Reason eWithout)
+                                    Reason eWithout) const
 {
     SaveResult result;
     result.eReason = failure ? ReasonOfFailure(*failure) : eWithout;
     // An open file whose journal cannot be made beside it lies in a folder that cannot be written.
     if (result.eReason == Reason::NotOpen && failure)
+        result.eReason = Reason::ReadOnly;
+    // A journal that is there but may no longer be written fails as a broken disk does.
+    if (result.eReason == Reason::Other && m_connection.IsWriteProtected())
         result.eReason = Reason::ReadOnly;
     if (failure)
         result.strTechnical = failure->strMessage;

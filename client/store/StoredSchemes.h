@@ -120,8 +120,8 @@ private:
                        bool bEditors);
     void Note(const SavePlan& plan, const AlarmInfoMap& theirs, const std::optional<AlarmInfoMap>& written,
               const SaveOrigin& origin);
-    static SaveResult FailureOf(const std::optional<AlarmSchemeStatementFailure>& failure,
-                                SchemeStoreOutcome::Reason eWithout);
+    SaveResult FailureOf(const std::optional<AlarmSchemeStatementFailure>& failure,
+                         SchemeStoreOutcome::Reason eWithout) const;
     std::optional<qint64> DataVersion() const;
     void ForgetBase();
     bool Write(const SavePlan& plan, const SaveTransaction& transaction, SaveProgress& progress);
