@@ -364,8 +364,13 @@ QString ACSEventSchemeEditor::HintText() const
 {
     if (m_selection.CurrentKey())
         return {};
-    if (m_selection.strSource.isEmpty())
-        return tr("Select a door or a device on the left to edit its alarm schemes.");
+    if (m_selection.strSource.isEmpty()) {
+        const QStandardItem* const pItem = m_pTree.isNull() ? nullptr : m_pTree->GetSelectedItem();
+        const int iKind = pItem ? pItem->data(VantaModel::NodeKindRole).toInt() : 0;
+        return iKind == VantaModel::NodeKindDevice || iKind == VantaModel::NodeKindChannel
+                   ? tr("This cannot have alarm schemes: it is disabled or of another type.")
+                   : tr("Select a door or a device on the left to edit its alarm schemes.");
+    }
     if (!m_selection.bExternal)
         return tr("Select an event to edit its alarm scheme.");
     return m_ui->treeAlarmIn->topLevelItemCount() == 0

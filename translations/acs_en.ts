@@ -146,6 +146,10 @@
         <source>Select an alarm input to edit its alarm scheme.</source>
         <translation>Select an alarm input to edit its alarm scheme.</translation>
     </message>
+    <message>
+        <source>This cannot have alarm schemes: it is disabled or of another type.</source>
+        <translation>This cannot have alarm schemes: it is disabled or of another type.</translation>
+    </message>
 </context>
 <context>
     <name>AlarmSchemeReadOutcome</name>

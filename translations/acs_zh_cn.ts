@@ -144,6 +144,10 @@
         <source>Select an alarm input to edit its alarm scheme.</source>
         <translation>请选择报警输入，以编辑其报警预案。</translation>
     </message>
+    <message>
+        <source>This cannot have alarm schemes: it is disabled or of another type.</source>
+        <translation>此项不能设置报警预案：它已停用或类型不符。</translation>
+    </message>
 </context>
 <context>
     <name>AlarmSchemeReadOutcome</name>

@@ -23,6 +23,7 @@ class TestPageNothingToEdit : public QObject
 private Q_SLOTS:
     void nothingIsSelectedAtTheStart();
     void thePageSaysWhatToDoWhenThereIsNothingToEdit();
+    void thePageSaysWhyWhatIsSelectedCannotBeEdited();
     void anOfflineControllerCanBeConfigured();
     void aDisabledDeviceCannotBeConfigured();
     void aDoorOfADisabledDeviceCannotBeConfigured();
@@ -67,6 +68,24 @@ void TestPageNothingToEdit::thePageSaysWhatToDoWhenThereIsNothingToEdit()
     QVERIFY(!pHint->isVisible());
     QVERIFY(page.hands.ClickInputDevice());
     QVERIFY(pHint->text().startsWith(QLatin1String("Select an alarm input")));
+}
+
+void TestPageNothingToEdit::thePageSaysWhyWhatIsSelectedCannotBeEdited()
+{
+    PageHost host;
+    OpenPage page(&host.managers);
+    const auto* const pHint = page.hands.Widget("wndSettings")
+                                  ->findChild<QLabel*>(QStringLiteral("lblHint"), Qt::FindDirectChildrenOnly);
+    QVERIFY(pHint != nullptr);
+    QVERIFY(page.hands.ClickDoor(Sealed));
+    QVERIFY(pHint->isVisible());
+    QVERIFY(pHint->text().startsWith(QLatin1String("This cannot have alarm schemes")));
+    QVERIFY(page.hands.ClickDevice(Cellar));
+    QVERIFY(pHint->text().startsWith(QLatin1String("This cannot have alarm schemes")));
+    QVERIFY(page.hands.ClickDoor(Front));
+    QVERIFY(!pHint->isVisible());
+    QVERIFY(page.hands.Search(QStringLiteral("Safe Door")));
+    QVERIFY(pHint->text().startsWith(QLatin1String("Select a door or a device")));
 }
 
 void TestPageNothingToEdit::anOfflineControllerCanBeConfigured()
