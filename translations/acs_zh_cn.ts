@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>alarm cfg details</source>
-        <translation>设置每个门和报警输入发生事件时的处理方式</translation>
+        <translation>设置各门和报警输入的事件处理方式</translation>
     </message>
 </context>
 <context>
