@@ -282,7 +282,7 @@ void MainWindow::SetSite(const QString& strFile, int iDevices)
 
 void MainWindow::ShowSaveOutcome(const SchemeStoreOutcome& outcome)
 {
-    if (outcome.IsSuccess()) {
+    if (outcome.IsSuccess() && !outcome.bRevert) { // a step taken back saves nobody's edits
         // Errors stay until they are clicked away, and what they advise would be wrong by now.
         const QStringList overcome = std::exchange(m_failures, {});
         for (const QString& strFailure : overcome) {

@@ -110,5 +110,6 @@ private:
     QLabel* m_pSite;
     QLabel* m_pUnsaved;
     SaveIndicator* m_pSaving;
-    QStringList m_failures; ///< of loading and saving, told since the last success
+    QStringList
+        m_failures; ///< of loading and saving, told since the last load, save or repair that succeeded
 };

@@ -2809,10 +2809,10 @@ Data directory: %2</translation>
         <translation>No scheme has changed; nothing had to be saved.</translation>
     </message>
     <message numerus="yes">
-        <source>%Ln scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
+        <source>%Ln scheme(s) stay as another program has saved them. To see them here, load anew.</source>
         <translation>
-            <numerusform>%Ln scheme stays as another program has saved it. To see it here, start this program again.</numerusform>
-            <numerusform>%Ln schemes stay as another program has saved them. To see them here, start this program again.</numerusform>
+            <numerusform>%Ln scheme stays as another program has saved it. To see it here, load anew.</numerusform>
+            <numerusform>%Ln schemes stay as another program has saved them. To see them here, load anew.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -2784,9 +2784,9 @@ Data directory: %2</source>
         <translation>预案没有更改，无需保存。</translation>
     </message>
     <message numerus="yes">
-        <source>%Ln scheme(s) stay as another program has saved them. To see them here, start this program again.</source>
+        <source>%Ln scheme(s) stay as another program has saved them. To see them here, load anew.</source>
         <translation>
-            <numerusform>%Ln 个预案保持另一个程序所保存的内容。要在此处查看，请重新启动本程序。</numerusform>
+            <numerusform>%Ln 个预案保持另一个程序所保存的内容。要在此处查看，请重新加载。</numerusform>
         </translation>
     </message>
     <message numerus="yes">

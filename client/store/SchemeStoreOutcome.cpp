@@ -65,8 +65,8 @@ SchemeStoreOutcome SchemeStoreOutcome::Saved(int iSchemes, int iKept)
     if (iSchemes == 0)
         outcome.strWhat = tr("No scheme has changed; nothing had to be saved.");
     if (iKept > 0)
-        outcome.strNext = tr("%Ln scheme(s) stay as another program has saved them. To see them here, start "
-                             "this program again.",
+        outcome.strNext = tr("%Ln scheme(s) stay as another program has saved them. To see them here, load "
+                             "anew.",
                              nullptr, iKept);
     return outcome;
 }

@@ -340,10 +340,16 @@ void TestMainWindow::aFailureIsToldUntilTheNextSuccess()
     QCOMPARE(Notes()->GetVisibleTexts(),
              (QStringList{QStringLiteral("something else"), full.Text(), locked.Text()}));
 
+    const Outcome takenBack = Outcome::Reverted(1, 0);
+    m_window->ShowSaveOutcome(takenBack); // the edits are still not saved
+    QVERIFY(Notes()->GetVisibleTexts().contains(full.Text()));
+    QVERIFY(Notes()->GetVisibleTexts().contains(locked.Text()));
+
     const Outcome saved = Outcome::Success(Outcome::Operation::Save, 3);
     m_window->ShowSaveOutcome(saved);
 
-    QCOMPARE(Notes()->GetVisibleTexts(), (QStringList{QStringLiteral("something else"), saved.Text()}));
+    QCOMPARE(Notes()->GetVisibleTexts(),
+             (QStringList{QStringLiteral("something else"), takenBack.Text(), saved.Text()}));
     Notes()->SetAnchor(nullptr);
 }
 
